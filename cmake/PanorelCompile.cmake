@@ -1,0 +1,26 @@
+# SPDX-License-Identifier: MIT
+
+# The compiler settings of every target of this project. They are private: a project that links
+# Panorel keeps its own.
+function(panorel_compile_settings target)
+    target_compile_features(${target} PRIVATE cxx_std_17)
+    set_target_properties(${target} PROPERTIES
+        AUTOMOC ON
+        CXX_EXTENSIONS OFF
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON)
+    target_compile_definitions(${target} PRIVATE
+        QT_NO_KEYWORDS
+        QT_NO_CAST_FROM_ASCII
+        QT_NO_CAST_TO_ASCII
+        QT_NO_URL_CAST_FROM_STRING
+        QT_NO_CAST_FROM_BYTEARRAY
+        QT_USE_QSTRINGBUILDER
+        QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
+    if(MSVC)
+        target_compile_options(${target} PRIVATE /W4)
+    else()
+        target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+            -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast)
+    endif()
+endfunction()

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <panorel/PanorelExport.h>
+
+#include <QList>
+#include <QString>
+
+class QMainWindow;
+
+namespace Panorel {
+
+/** A main window and the id under which its layout is kept. Copyable; owns nothing. */
+struct ManagedWindow
+{
+    /** The DescriptorId. It names the window in every stored layout, so keep it stable between
+        runs. An empty id means that the window is not managed. */
+    QString descriptorId;
+    /** The window to capture from and to restore; not owned. A null window is passed over. */
+    QMainWindow* window = nullptr;
+};
+
+/**
+ * Implemented by the application's objects that own main windows, and registered with
+ * Manager::registerManagable(). The Manager never deletes an IManagable.
+ */
+class PANOREL_EXPORT IManagable
+{
+public:
+    IManagable() = default;
+    virtual ~IManagable() = 0;
+
+    /**
+     * The windows to manage, each with its DescriptorId. Asked on the GUI thread, anew for every
+     * capture and every restore, so the answer may change between calls. Every window in the list
+     * must be alive when it is returned. Where two windows share an id, the later one's layout is
+     * the one that is kept, and both get it back.
+     */
+    virtual QList<ManagedWindow> managedWindows() = 0;
+
+protected:
+    IManagable(const IManagable&) = default;
+    IManagable& operator=(const IManagable&) = default;
+};
+
+} // namespace Panorel

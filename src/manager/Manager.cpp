@@ -1,0 +1,315 @@
+// SPDX-License-Identifier: MIT
+#include <panorel/Manager.h>
+
+#include "Group.h"
+
+#include <panorel/QtState.h>
+
+#include <QMainWindow>
+#include <QPointer>
+
+#include <algorithm>
+
+namespace Panorel {
+
+namespace {
+
+// The layout version given to saveState() and restoreState().
+constexpr int layoutVersion = 0;
+
+// Empty but not null, which receivers can tell apart.
+QString emptyName()
+{
+    return QLatin1String("");
+}
+
+QString nameOf(const View* view)
+{
+    return view ? view->name : QString();
+}
+
+} // namespace
+
+Manager::Manager(const QStringList& groups, bool mergeOnApply, QObject* parent)
+    : QObject(parent)
+    , m_mergeOnApply(mergeOnApply)
+{
+    for (const QString& name : groups) {
+        if (!findGroup(name))
+            m_groups.append(new Group(this, name));
+    }
+    if (m_groups.isEmpty())
+        m_groups.append(new Group(this, QString()));
+    m_activeGroup = m_groups.first();
+}
+
+Manager::~Manager()
+{
+    qDeleteAll(m_groups);
+}
+
+void Manager::registerManagable(IManagable& managable)
+{
+    m_managables.append(&managable);
+}
+
+QStringList Manager::groups() const
+{
+    QStringList names;
+    for (const Group* group : m_groups)
+        names.append(group->name);
+    return names;
+}
+
+QString Manager::activeGroup() const
+{
+    return m_activeGroup->name;
+}
+
+QStringList Manager::views() const
+{
+    QStringList names;
+    for (const auto& view : m_activeGroup->views)
+        names.append(view->name);
+    return names;
+}
+
+QString Manager::activeView() const
+{
+    return nameOf(m_activeGroup->activeView);
+}
+
+bool Manager::activateGroup(const QString& name)
+{
+    Group* group = findGroup(name);
+    if (!group)
+        return false;
+    // Deliberate: the group that is active already is captured and applied again, with both
+    // signals.
+    m_activeGroup->captureCurrentView();
+    m_activeGroup = group;
+    group->applyCurrentView();
+    Q_EMIT groupActivated(group->name);
+    Q_EMIT viewActivated(nameOf(group->activeView));
+    return true;
+}
+
+bool Manager::activateView(const QString& name)
+{
+    if (name.isEmpty())
+        return false;
+    View* view = m_activeGroup->findView(name);
+    if (!view)
+        return false;
+    m_activeGroup->selectView(view, /*emitSignal=*/true);
+    return true;
+}
+
+bool Manager::createView(const QString& name)
+{
+    if (m_activeGroup->findView(name))
+        return false;
+    View* view = m_activeGroup->appendView(name);
+    view->states = captureStates();
+    Q_EMIT groupModified();
+    return true;
+}
+
+bool Manager::saveCurrentViewAs(const QString& name)
+{
+    Group* group = m_activeGroup;
+    View* view = group->findView(name);
+    const bool created = !view;
+    if (created)
+        view = group->appendView(name);
+    group->captureCurrentView();
+    view->states = group->currentView->states;
+    group->activeView = view;
+    if (created)
+        Q_EMIT groupModified();
+    Q_EMIT viewActivated(name);
+    return true;
+}
+
+void Manager::deleteView(const QString& name)
+{
+    Group* group = m_activeGroup;
+    const View* view = group->findView(name);
+    if (!view)
+        return;
+    if (view == group->activeView) {
+        group->activeView = nullptr;
+        Q_EMIT viewActivated(emptyName());
+    }
+    group->removeView(view);
+    Q_EMIT groupModified();
+}
+
+void Manager::clear()
+{
+    // Deliberate: both signals come here and again below, the first pair before anything changes.
+    Q_EMIT viewActivated(emptyName());
+    Q_EMIT groupModified();
+    const QVector<Group*> groups = m_groups;
+    for (Group* group : groups) {
+        const bool active = group->name == activeGroup();
+        group->activeView = nullptr;
+        if (active)
+            Q_EMIT viewActivated(QString());
+        group->views.clear();
+        if (active)
+            Q_EMIT groupModified();
+    }
+}
+
+// Deliberate: the user data operations answer without data; it travels through the document only.
+
+QVariant Manager::viewUserData(const QString& name) const
+{
+    Q_UNUSED(name)
+    return QVariant();
+}
+
+QVariant Manager::viewUserData() const
+{
+    return QVariant();
+}
+
+bool Manager::setViewUserData(const QVariant& userData)
+{
+    Q_UNUSED(userData)
+    return true;
+}
+
+QByteArray Manager::toXml(bool markActive)
+{
+    Q_UNUSED(markActive)
+    return QByteArray();
+}
+
+bool Manager::fromXml(const QByteArray& data, bool merge)
+{
+    Q_UNUSED(data)
+    Q_UNUSED(merge)
+    return false;
+}
+
+bool Manager::viewsValid() const
+{
+    return false;
+}
+
+bool Manager::setFactoryDefaultView(const QByteArray& data)
+{
+    Q_UNUSED(data)
+    return false;
+}
+
+bool Manager::setProgramStartView(const QByteArray& data)
+{
+    Q_UNUSED(data)
+    return false;
+}
+
+bool Manager::factoryDefaultViewSet() const
+{
+    return !m_factoryDefaultView.isEmpty();
+}
+
+bool Manager::programStartViewSet() const
+{
+    return !m_programStartView.isEmpty();
+}
+
+bool Manager::activateFactoryDefaultView()
+{
+    return false;
+}
+
+bool Manager::activateProgramStartView()
+{
+    return false;
+}
+
+QList<ManagedWindow> Manager::managedWindows()
+{
+    QList<ManagedWindow> windows;
+    const QList<IManagable*> managables = m_managables;
+    for (IManagable* managable : managables)
+        windows.append(managable->managedWindows());
+    return windows;
+}
+
+StateMap Manager::captureStates()
+{
+    StateMap states;
+    const QList<ManagedWindow> windows = managedWindows();
+    for (const ManagedWindow& managed : windows) {
+        if (managed.descriptorId.isEmpty() || !managed.window)
+            continue;
+        const QByteArray state = managed.window->saveState(layoutVersion);
+        if (!state.isEmpty())
+            states.insert(managed.descriptorId, state);
+    }
+    return states;
+}
+
+void Manager::restoreStates(const StateMap& states)
+{
+    struct Target
+    {
+        // Restoring one window may make the application destroy another.
+        QPointer<QMainWindow> window;
+        QByteArray state;
+    };
+    QVector<Target> targets;
+    const QList<ManagedWindow> windows = managedWindows();
+    for (const ManagedWindow& managed : windows) {
+        if (!managed.descriptorId.isEmpty())
+            targets.append({managed.window, states.value(managed.descriptorId)});
+    }
+    for (const Target& target : qAsConst(targets)) {
+        // A window that refuses the blob keeps the layout it has.
+        if (target.window && !target.state.isEmpty())
+            (void)target.window->restoreState(target.state, layoutVersion);
+    }
+}
+
+StateMap Manager::mergeStates(const StateMap& stored, const StateMap& live)
+{
+    StateMap merged;
+    const QStringList ids = stored.keys() + live.keys();
+    for (const QString& id : ids) {
+        if (merged.contains(id))
+            continue;
+        // Deliberate: whether a blob parses is not asked; a broken one takes part as far as it
+        // was read, and an id without a stored blob gives one that its window refuses.
+        QtState storedState;
+        const QByteArray storedBlob = stored.value(id);
+        if (!storedBlob.isEmpty())
+            (void)storedState.read(storedBlob);
+        QtState liveState;
+        const QByteArray liveBlob = live.value(id);
+        if (!liveBlob.isEmpty())
+            (void)liveState.read(liveBlob);
+        merged.insert(id, QtState::merge(storedState, liveState).write());
+    }
+    return merged;
+}
+
+void Manager::applyStates(const StateMap& states)
+{
+    if (m_mergeOnApply)
+        restoreStates(mergeStates(states, captureStates()));
+    else
+        restoreStates(states);
+}
+
+Group* Manager::findGroup(const QString& name) const
+{
+    const auto it = std::find_if(m_groups.cbegin(), m_groups.cend(),
+                                 [&](const Group* group) { return group->name == name; });
+    return it == m_groups.cend() ? nullptr : *it;
+}
+
+} // namespace Panorel

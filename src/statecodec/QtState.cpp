@@ -1,0 +1,432 @@
+// SPDX-License-Identifier: MIT
+#include <panorel/QtState.h>
+
+#include <QByteArray>
+#include <QDataStream>
+#include <QFile>
+#include <QtEndian>
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <utility>
+
+namespace Panorel {
+
+using Dock = QtState::DockAreaLayout::Dock;
+using Block = Dock::Block;
+using Item = Block::Item;
+using Line = QtState::ToolBarAreaLayout::Line;
+
+// The in-class initialisers make them usable as constants; the definitions give them addresses
+// that are exported.
+const int QtState::QMainWindowLayout_VersionMarker;
+const unsigned char QtState::QToolBarAreaLayout_ToolBarStateMarker;
+const unsigned char QtState::QToolBarAreaLayout_ToolBarStateMarkerEx;
+const unsigned char QtState::QDockAreaLayout_DockWidgetStateMarker;
+const unsigned char QtState::QDockAreaLayoutInfo_SequenceMarker;
+const unsigned char QtState::QDockAreaLayoutInfo_TabMarker;
+const unsigned char QtState::QDockAreaLayoutInfo_WidgetMarker;
+const bool QtState::VERSION_PRE43;
+
+namespace {
+
+bool isOk(const QDataStream& stream)
+{
+    return stream.status() == QDataStream::Ok;
+}
+
+// Integers that follow each other go through the stream in one call: most of a blob is integers,
+// and a call for each costs more than everything else together.
+constexpr int maxRun = 6;
+
+bool readInts(QDataStream& stream, int* values, int count)
+{
+    Q_ASSERT(count <= maxRun);
+    char bytes[maxRun * sizeof(qint32)];
+    const int size = count * static_cast<int>(sizeof(qint32));
+    if (stream.readRawData(bytes, size) != size)
+        return false;
+    qFromBigEndian<qint32>(bytes, count, values);
+    return isOk(stream);
+}
+
+void writeInts(QDataStream& stream, const int* values, int count)
+{
+    Q_ASSERT(count <= maxRun);
+    char bytes[maxRun * sizeof(qint32)];
+    qToBigEndian<qint32>(values, count, bytes);
+    stream.writeRawData(bytes, count * static_cast<int>(sizeof(qint32)));
+}
+
+int sizeAsInt(std::size_t size)
+{
+    return static_cast<int>(size);
+}
+
+// Reads what stands before the items.
+bool readBlockHead(QDataStream& stream, Block& block, int& itemCount)
+{
+    quint8 marker = 0;
+    stream >> marker;
+    block.tabbed = marker == QtState::QDockAreaLayoutInfo_TabMarker;
+    if (!block.tabbed && marker != QtState::QDockAreaLayoutInfo_SequenceMarker)
+        return false;
+    if (block.tabbed)
+        stream >> block.currentIndex;
+    stream >> block.orientation;
+    return readInts(stream, &itemCount, 1);
+}
+
+// Reads an item up to its nested block, which it creates.
+bool readItemHead(QDataStream& stream, Item& item)
+{
+    quint8 marker = 0;
+    stream >> marker;
+    item.isSequence = marker == QtState::QDockAreaLayoutInfo_SequenceMarker;
+    if (item.isSequence)
+        item.subBlock = std::make_unique<Block>();
+    else if (marker == QtState::QDockAreaLayoutInfo_WidgetMarker)
+        stream >> item.objectName >> item.flags;
+    else
+        return false;
+    return readInts(stream, item.values, 4);
+}
+
+void writeBlockHead(QDataStream& stream, const Block& block)
+{
+    if (block.tabbed)
+        stream << QtState::QDockAreaLayoutInfo_TabMarker << block.currentIndex;
+    else
+        stream << QtState::QDockAreaLayoutInfo_SequenceMarker;
+    stream << block.orientation << sizeAsInt(block.items.size());
+}
+
+void writeItemHead(QDataStream& stream, const Item& item)
+{
+    if (item.isSequence)
+        stream << QtState::QDockAreaLayoutInfo_SequenceMarker;
+    else
+        stream << QtState::QDockAreaLayoutInfo_WidgetMarker << item.objectName << item.flags;
+    writeInts(stream, item.values, 4);
+}
+
+// Gives each record the leading part of @p items that ends where its own items end; @p itemsOf
+// names the list to fill. Only the last record holds them all, so only it can take them over.
+template<typename Record, typename ItemType, typename ItemsOf>
+void distributeItems(std::vector<Record>& records, const std::vector<std::size_t>& ends,
+                     std::vector<ItemType>&& items, ItemsOf itemsOf)
+{
+    if (records.empty())
+        return;
+    for (std::size_t i = 0; i + 1 < records.size(); ++i) {
+        const auto end = items.cbegin() + static_cast<std::ptrdiff_t>(ends[i]);
+        itemsOf(records[i]).assign(items.cbegin(), end);
+    }
+    itemsOf(records.back()) = std::move(items);
+}
+
+} // namespace
+
+// Nested blocks are walked with a list of what is still to do instead of recursion: a blob of a few
+// megabytes can nest deeper than any stack.
+
+std::unique_ptr<Block> Item::clone(const Block& source)
+{
+    struct Task
+    {
+        const Block* from;
+        Block* to;
+    };
+    auto result = std::make_unique<Block>();
+    std::vector<Task> tasks{{&source, result.get()}};
+    while (!tasks.empty()) {
+        const Task task = tasks.back();
+        tasks.pop_back();
+        task.to->tabbed = task.from->tabbed;
+        task.to->currentIndex = task.from->currentIndex;
+        task.to->orientation = task.from->orientation;
+        task.to->items.reserve(task.from->items.size());
+        for (const Item& item : task.from->items) {
+            Item& copy = task.to->items.emplace_back();
+            copy.isSequence = item.isSequence;
+            copy.objectName = item.objectName;
+            copy.flags = item.flags;
+            std::copy(std::begin(item.values), std::end(item.values), std::begin(copy.values));
+            if (item.subBlock) {
+                copy.subBlock = std::make_unique<Block>();
+                tasks.push_back({item.subBlock.get(), copy.subBlock.get()});
+            }
+        }
+    }
+    return result;
+}
+
+void Item::release(std::unique_ptr<Block> block) noexcept
+{
+    std::vector<std::unique_ptr<Block>> pending;
+    while (block) {
+        for (Item& item : block->items) {
+            if (item.subBlock)
+                pending.push_back(std::move(item.subBlock));
+        }
+        block.reset();
+        if (!pending.empty()) {
+            block = std::move(pending.back());
+            pending.pop_back();
+        }
+    }
+}
+
+QtState::QtState() = default;
+
+QtState::QtState(const QtState& other) = default;
+
+QtState::~QtState() = default;
+
+QtState& QtState::operator=(const QtState& other)
+{
+    // Deliberate: the generic swap is built from copy construction and this very assignment, so
+    // assigning a distinct value never completes. The attribute at the declaration warns callers.
+    if (this != &other) {
+        QtState copy(other);
+        std::swap(*this, copy);
+    }
+    return *this;
+}
+
+bool QtState::read(const QByteArray& state)
+{
+    clear();
+    QDataStream stream(state);
+    stream >> m_versionMarker >> m_version;
+    if (!isOk(stream) || m_versionMarker != QMainWindowLayout_VersionMarker)
+        return false;
+    while (!stream.atEnd()) {
+        quint8 marker = 0;
+        stream >> marker;
+        switch (marker) {
+        case QDockAreaLayout_DockWidgetStateMarker:
+            if (!readDockAreaLayout(stream))
+                return false;
+            break;
+        case QToolBarAreaLayout_ToolBarStateMarker:
+        case QToolBarAreaLayout_ToolBarStateMarkerEx:
+            if (!readToolBarAreaLayout(stream, marker))
+                return false;
+            break;
+        default:
+            return false;
+        }
+    }
+    return isOk(stream);
+}
+
+bool QtState::readDockAreaLayout(QDataStream& stream)
+{
+    DockAreaLayout layout;
+    std::vector<std::size_t> itemEnds;
+    // Deliberate: the block is not emptied between records, so each dock record's block holds the
+    // items of all earlier dock records of the same section followed by its own. They are handed
+    // out once the section is complete, so that a section that fails costs no more than its bytes.
+    Block block;
+    int dockCount = 0;
+    stream >> dockCount;
+    for (int i = 0; i < dockCount; ++i) {
+        int head[3];
+        if (!readInts(stream, head, 3) || !readDockAreaLayoutBlock(stream, block))
+            return false;
+        Dock& dock = layout.docks.emplace_back();
+        dock.area = head[0];
+        dock.size = QSize(head[1], head[2]);
+        dock.block.tabbed = block.tabbed;
+        dock.block.currentIndex = block.currentIndex;
+        dock.block.orientation = block.orientation;
+        itemEnds.push_back(block.items.size());
+    }
+    int tail[6];
+    if (!readInts(stream, tail, 6))
+        return false;
+    layout.centralWidgetSize = QSize(tail[0], tail[1]);
+    std::copy(tail + 2, tail + 6, layout.corners);
+    distributeItems(layout.docks, itemEnds, std::move(block.items),
+                    [](Dock& dock) -> std::vector<Item>& { return dock.block.items; });
+    m_dockAreaLayouts.push_back(std::move(layout));
+    return true;
+}
+
+bool QtState::readDockAreaLayoutBlock(QDataStream& stream, Block& block) const
+{
+    struct OpenBlock
+    {
+        Block* block;
+        int itemsLeft;
+    };
+    int itemCount = 0;
+    if (!readBlockHead(stream, block, itemCount))
+        return false;
+    std::vector<OpenBlock> open{{&block, itemCount}};
+    while (!open.empty()) {
+        if (open.back().itemsLeft <= 0) {
+            open.pop_back();
+            continue;
+        }
+        --open.back().itemsLeft;
+        Item& item = open.back().block->items.emplace_back();
+        if (!readItemHead(stream, item))
+            return false;
+        if (item.isSequence) {
+            if (!readBlockHead(stream, *item.subBlock, itemCount))
+                return false;
+            open.push_back({item.subBlock.get(), itemCount});
+        }
+    }
+    return true;
+}
+
+bool QtState::readToolBarAreaLayout(QDataStream& stream, int marker)
+{
+    ToolBarAreaLayout layout;
+    layout.extended = marker == QToolBarAreaLayout_ToolBarStateMarkerEx;
+    // Deliberate: three values for a short section, four for an extended one. A short section that
+    // carries another number is misread, not adjusted to.
+    const int valueCount = layout.extended ? 4 : 3;
+    std::vector<std::size_t> itemEnds;
+    // Deliberate: not emptied between lines, so each line holds the items of all earlier lines of
+    // the same section followed by its own. Handed out at the end as for dock records.
+    std::vector<ToolBarAreaLayout::Item> items;
+    int lineCount = 0;
+    stream >> lineCount;
+    for (int i = 0; i < lineCount; ++i) {
+        int head[2];
+        if (!readInts(stream, head, 2))
+            return false;
+        for (int j = 0; j < head[1]; ++j) {
+            ToolBarAreaLayout::Item& item = items.emplace_back();
+            stream >> item.objectName >> item.shown;
+            int values[4];
+            if (!readInts(stream, values, valueCount))
+                return false;
+            for (int k = 0; k < valueCount; ++k)
+                item.values[k].setX(values[k]);
+        }
+        layout.lines.emplace_back().area = head[0];
+        itemEnds.push_back(items.size());
+    }
+    if (!isOk(stream))
+        return false;
+    distributeItems(layout.lines, itemEnds, std::move(items),
+                    [](Line& line) -> std::vector<ToolBarAreaLayout::Item>& { return line.items; });
+    m_toolBarAreaLayouts.push_back(std::move(layout));
+    return true;
+}
+
+QByteArray QtState::write() const
+{
+    QByteArray state;
+    QDataStream stream(&state, QIODevice::WriteOnly);
+    stream << m_versionMarker << m_version;
+    for (const DockAreaLayout& layout : m_dockAreaLayouts)
+        writeDockAreaLayout(stream, layout);
+    for (const ToolBarAreaLayout& layout : m_toolBarAreaLayouts)
+        writeToolBarAreaLayout(stream, layout);
+    return state;
+}
+
+void QtState::writeDockAreaLayout(QDataStream& stream, const DockAreaLayout& layout) const
+{
+    stream << QDockAreaLayout_DockWidgetStateMarker << sizeAsInt(layout.docks.size());
+    for (const Dock& dock : layout.docks) {
+        const int head[3] = {dock.area, dock.size.width(), dock.size.height()};
+        writeInts(stream, head, 3);
+        writeDockAreaLayoutBlock(stream, dock.block);
+    }
+    const int tail[6] = {layout.centralWidgetSize.width(),
+                         layout.centralWidgetSize.height(),
+                         layout.corners[0],
+                         layout.corners[1],
+                         layout.corners[2],
+                         layout.corners[3]};
+    writeInts(stream, tail, 6);
+}
+
+void QtState::writeDockAreaLayoutBlock(QDataStream& stream, const Block& block) const
+{
+    struct OpenBlock
+    {
+        const Block* block;
+        std::size_t nextItem;
+    };
+    static const Block emptyBlock{};
+    writeBlockHead(stream, block);
+    std::vector<OpenBlock> open{{&block, 0}};
+    while (!open.empty()) {
+        OpenBlock& current = open.back();
+        if (current.nextItem == current.block->items.size()) {
+            open.pop_back();
+            continue;
+        }
+        const Item& item = current.block->items[current.nextItem++];
+        writeItemHead(stream, item);
+        if (item.isSequence) {
+            const Block* subBlock = item.subBlock ? item.subBlock.get() : &emptyBlock;
+            writeBlockHead(stream, *subBlock);
+            open.push_back({subBlock, 0});
+        }
+    }
+}
+
+void QtState::writeToolBarAreaLayout(QDataStream& stream, const ToolBarAreaLayout& layout) const
+{
+    stream << (layout.extended ? QToolBarAreaLayout_ToolBarStateMarkerEx
+                               : QToolBarAreaLayout_ToolBarStateMarker)
+           << sizeAsInt(layout.lines.size());
+    for (const Line& line : layout.lines) {
+        stream << line.area << sizeAsInt(line.items.size());
+        for (const ToolBarAreaLayout::Item& item : line.items) {
+            stream << item.objectName << item.shown;
+            const int values[4] = {item.values[0].x(), item.values[1].x(), item.values[2].x(),
+                                   item.values[3].x()};
+            writeInts(stream, values, layout.extended ? 4 : 3);
+        }
+    }
+}
+
+QtState QtState::merge(const QtState& a, const QtState& b)
+{
+    QtState merged;
+    // Deliberate: whether a is null is not asked. An empty a gives a blob that every reader
+    // rejects, so a window without a stored layout keeps the one it has.
+    merged.m_versionMarker = a.m_versionMarker;
+    merged.m_version = a.m_version;
+    merged.m_dockAreaLayouts = a.m_dockAreaLayouts;
+    if (!b.isNull())
+        merged.m_toolBarAreaLayouts = b.m_toolBarAreaLayouts;
+    return merged;
+}
+
+void QtState::dump(const QString& fileName) const
+{
+    // QFile would log a warning about an empty name.
+    if (fileName.isEmpty())
+        return;
+    // Deliberate: opening creates or empties the file and nothing is written to it; a file that
+    // cannot be opened is not reported.
+    QFile file(fileName);
+    (void)file.open(QIODevice::WriteOnly | QIODevice::Text);
+}
+
+bool QtState::isNull() const
+{
+    return m_version == -1;
+}
+
+void QtState::clear()
+{
+    m_versionMarker = -1;
+    m_version = -1;
+    m_dockAreaLayouts.clear();
+    m_toolBarAreaLayouts.clear();
+}
+
+} // namespace Panorel
