@@ -13,9 +13,15 @@
 #include <QVariant>
 #include <QVector>
 
+class QAbstractMessageHandler;
+class QXmlSchema;
+class QXmlStreamReader;
+class QXmlStreamWriter;
+
 namespace Panorel {
 
 struct Group;
+struct View;
 
 /**
  * Keeps the layouts of an application's main windows under names.
@@ -106,16 +112,49 @@ public:
     /** Changes nothing, emits nothing and returns true. */
     bool setViewUserData(const QVariant& userData);
 
-    /** Not available yet: returns an empty array. */
+    /**
+     * The whole model as one XML document in UTF-8. The live layout becomes the active group's
+     * current view first; nothing is emitted.
+     * @param markActive whether each group's active view is marked, so that fromXml() finds it.
+     *
+     * User data is written as text; a value that has no text form is written empty. Characters that
+     * XML cannot carry are lost from names.
+     */
     QByteArray toXml(bool markActive);
-    /** Not available yet: returns false. */
+
+    /**
+     * Reads a document written by toXml() and restores the active group's current view.
+     * @param merge false: the document replaces all saved views. true: it is laid over them; views
+     * it does not name stay, and so does a group's active view if the document marks none.
+     * @return false for a document that does not satisfy the schema; nothing has changed then and
+     * nothing is emitted. Groups are never added, removed, or activated: what the document says of
+     * groups that this Manager does not have is skipped.
+     *
+     * Mind that a document of another version than "1.1.0" is not read, and yet the result is true:
+     * with @p merge false the saved views are gone then. Keep a toXml() to go back to.
+     *
+     * Emits the signals of clear() with @p merge false, before anything is read; then
+     * groupModified(), and when the windows show the layout viewActivated() with the active group's
+     * active view, null if none. Opens no file and no network connection, whatever the document
+     * refers to.
+     */
     bool fromXml(const QByteArray& data, bool merge);
-    /** Not available yet: returns false. */
+
+    /**
+     * Whether every saved view of every group holds a layout for exactly the windows that are there
+     * now. Always true with mergeOnApply false.
+     */
     bool viewsValid() const;
 
-    /** Not available yet: returns false. */
+    /**
+     * Keeps a document of toXml() as the factory default, in place of an earlier one; it is not
+     * read yet.
+     * @return false, with the earlier one kept, for empty data and for a document that does not
+     * satisfy the schema.
+     * Emits factoryDefaultViewChanged(true).
+     */
     bool setFactoryDefaultView(const QByteArray& data);
-    /** Not available yet: returns false. */
+    /** As setFactoryDefaultView(), for the program start. Emits programStartViewChanged(true). */
     bool setProgramStartView(const QByteArray& data);
     /** True when a factory-default document is kept. */
     bool factoryDefaultViewSet() const;
@@ -154,9 +193,12 @@ public Q_SLOTS:
      */
     bool activateView(const QString& name);
 
-    /** Not available yet: returns false. */
+    /**
+     * Replaces all saved views by the factory-default document, as fromXml(document, false) does.
+     * @return false when none is set.
+     */
     bool activateFactoryDefaultView();
-    /** Not available yet: returns false. */
+    /** As activateFactoryDefaultView(), for the program-start document. */
     bool activateProgramStartView();
 
 private:
@@ -168,6 +210,16 @@ private:
     void restoreStates(const StateMap& states);
     StateMap mergeStates(const StateMap& stored, const StateMap& live);
     void applyStates(const StateMap& states);
+
+    QXmlSchema loadSchema() const;
+    bool validateDocument(const QByteArray& data, QAbstractMessageHandler* handler = nullptr) const;
+    void writeGroup(const Group& group, QXmlStreamWriter& writer, bool markActive) const;
+    void writeView(const View& view, QXmlStreamWriter& writer) const;
+    void readDocument(QXmlStreamReader& reader, StateMap& toolBarStates);
+    void readGroups(QXmlStreamReader& reader);
+    void readGroup(Group& group, QXmlStreamReader& reader);
+    void readViews(Group& group, QXmlStreamReader& reader);
+    void readView(View& view, QXmlStreamReader& reader);
 
     Group* findGroup(const QString& name) const;
 

@@ -181,56 +181,6 @@ bool Manager::setViewUserData(const QVariant& userData)
     return true;
 }
 
-QByteArray Manager::toXml(bool markActive)
-{
-    Q_UNUSED(markActive)
-    return QByteArray();
-}
-
-bool Manager::fromXml(const QByteArray& data, bool merge)
-{
-    Q_UNUSED(data)
-    Q_UNUSED(merge)
-    return false;
-}
-
-bool Manager::viewsValid() const
-{
-    return false;
-}
-
-bool Manager::setFactoryDefaultView(const QByteArray& data)
-{
-    Q_UNUSED(data)
-    return false;
-}
-
-bool Manager::setProgramStartView(const QByteArray& data)
-{
-    Q_UNUSED(data)
-    return false;
-}
-
-bool Manager::factoryDefaultViewSet() const
-{
-    return !m_factoryDefaultView.isEmpty();
-}
-
-bool Manager::programStartViewSet() const
-{
-    return !m_programStartView.isEmpty();
-}
-
-bool Manager::activateFactoryDefaultView()
-{
-    return false;
-}
-
-bool Manager::activateProgramStartView()
-{
-    return false;
-}
-
 QList<ManagedWindow> Manager::managedWindows()
 {
     QList<ManagedWindow> windows;

@@ -1,0 +1,273 @@
+// SPDX-License-Identifier: MIT
+
+// The Manager's operations on the view-settings document.
+
+#include "DefaultMessageHandler.h"
+#include "DenyingNetworkAccessManager.h"
+#include "Group.h"
+
+#include <panorel/Manager.h>
+
+#include <QFile>
+#include <QHash>
+#include <QXmlSchema>
+#include <QXmlSchemaValidator>
+#include <QXmlStreamReader>
+#include <QXmlStreamWriter>
+
+namespace Panorel {
+
+namespace {
+
+const QLatin1String documentVersion("1.1.0");
+
+QString attribute(const QXmlStreamReader& reader, const char* name)
+{
+    return reader.attributes().value(QLatin1String(name)).toString();
+}
+
+void writeState(QXmlStreamWriter& writer, const QString& element, const QString& descriptorId,
+                const QByteArray& state)
+{
+    writer.writeStartElement(element);
+    writer.writeAttribute(QStringLiteral("DescriptorId"), descriptorId);
+    // The empty text closes the start tag; the digits need no escaping and go past the writer,
+    // which would look at each of them several times.
+    writer.writeCharacters(QString());
+    writer.device()->write(state.toHex());
+    writer.writeEndElement();
+}
+
+void writeStates(QXmlStreamWriter& writer, const QString& element, const StateMap& states)
+{
+    for (auto it = states.cbegin(); it != states.cend(); ++it)
+        writeState(writer, element, it.key(), it.value());
+}
+
+// Reads an element with a window's state into @p states; an empty state is dropped.
+void readState(QXmlStreamReader& reader, StateMap& states)
+{
+    const QString descriptorId = attribute(reader, "DescriptorId");
+    const QByteArray state = QByteArray::fromHex(reader.readElementText().toUtf8());
+    if (!state.isEmpty())
+        states.insert(descriptorId, state);
+}
+
+} // namespace
+
+QXmlSchema Manager::loadSchema() const
+{
+    QXmlSchema schema;
+    QFile file(QStringLiteral(":/ViewSettingsXsdSchema"));
+    // Without the resource the schema stays invalid, and so does every document.
+    if (file.open(QIODevice::ReadOnly | QIODevice::Text))
+        schema.load(file.readAll(), QUrl());
+    return schema;
+}
+
+bool Manager::validateDocument(const QByteArray& data, QAbstractMessageHandler* handler) const
+{
+    // Outlives the schema and the validator, which refer to it.
+    Detail::DenyingNetworkAccessManager network;
+    Detail::DefaultMessageHandler defaultHandler;
+    QXmlSchema schema = loadSchema();
+    if (!schema.isValid())
+        return false;
+    schema.setMessageHandler(handler ? handler : &defaultHandler);
+    schema.setNetworkAccessManager(&network);
+    const QXmlSchemaValidator validator(schema);
+    return validator.validate(data, QUrl());
+}
+
+QByteArray Manager::toXml(bool markActive)
+{
+    m_activeGroup->captureCurrentView();
+    QByteArray document;
+    QXmlStreamWriter writer(&document);
+    writer.setAutoFormatting(true);
+    writer.writeStartDocument();
+    writer.writeStartElement(QStringLiteral("ViewData"));
+    writer.writeAttribute(QStringLiteral("Version"), documentVersion);
+    if (m_mergeOnApply)
+        writeStates(writer, QStringLiteral("ToolBarState"), captureStates());
+    writer.writeStartElement(QStringLiteral("Groups"));
+    const QVector<Group*> groups = m_groups;
+    for (const Group* group : groups) {
+        writer.writeStartElement(QStringLiteral("Group"));
+        writeGroup(*group, writer, markActive);
+        writer.writeEndElement();
+    }
+    writer.writeEndElement();
+    writer.writeEndElement();
+    writer.writeEndDocument();
+    return document;
+}
+
+void Manager::writeGroup(const Group& group, QXmlStreamWriter& writer, bool markActive) const
+{
+    writer.writeAttribute(QStringLiteral("Name"), group.name);
+    writer.writeStartElement(QStringLiteral("Views"));
+    for (const auto& view : group.views) {
+        writer.writeStartElement(QStringLiteral("View"));
+        if (markActive && view.get() == group.activeView)
+            writer.writeAttribute(QStringLiteral("Active"), QStringLiteral("true"));
+        writeView(*view, writer);
+        writer.writeEndElement();
+    }
+    writer.writeEndElement();
+    writer.writeStartElement(QStringLiteral("CurrentView"));
+    writeView(*group.currentView, writer);
+    writer.writeEndElement();
+}
+
+void Manager::writeView(const View& view, QXmlStreamWriter& writer) const
+{
+    writer.writeAttribute(QStringLiteral("Name"), view.name);
+    writeStates(writer, QStringLiteral("State"), view.states);
+    writer.writeTextElement(QStringLiteral("UserData"), view.userData.toString());
+}
+
+bool Manager::fromXml(const QByteArray& data, bool merge)
+{
+    // A copy, for a receiver of clear()'s signals may change the caller's array.
+    const QByteArray document = data;
+    if (!validateDocument(document))
+        return false;
+    if (!merge)
+        clear();
+    StateMap toolBarStates;
+    QXmlStreamReader reader(document);
+    while (reader.readNextStartElement()) {
+        if (reader.name() != QLatin1String("ViewData"))
+            continue;
+        // Deliberate: a document of another version is not read, and yet all that follows is done
+        // and the result is true.
+        if (attribute(reader, "Version") != documentVersion)
+            break;
+        readDocument(reader, toolBarStates);
+    }
+    Q_EMIT groupModified();
+    if (m_mergeOnApply)
+        restoreStates(toolBarStates);
+    m_activeGroup->applyCurrentView();
+    Q_EMIT viewActivated(activeView());
+    return true;
+}
+
+void Manager::readDocument(QXmlStreamReader& reader, StateMap& toolBarStates)
+{
+    while (reader.readNextStartElement()) {
+        if (reader.name() == QLatin1String("Groups"))
+            readGroups(reader);
+        else if (reader.name() == QLatin1String("ToolBarState") && m_mergeOnApply)
+            readState(reader, toolBarStates);
+        else
+            reader.skipCurrentElement();
+    }
+}
+
+void Manager::readGroups(QXmlStreamReader& reader)
+{
+    while (reader.readNextStartElement()) {
+        if (Group* group = findGroup(attribute(reader, "Name")))
+            readGroup(*group, reader);
+        else
+            reader.skipCurrentElement();
+    }
+}
+
+void Manager::readGroup(Group& group, QXmlStreamReader& reader)
+{
+    while (reader.readNextStartElement()) {
+        if (reader.name() == QLatin1String("Views"))
+            readViews(group, reader);
+        else
+            readView(*group.currentView, reader);
+    }
+    if (group.currentView->states.isEmpty())
+        group.captureCurrentView();
+}
+
+void Manager::readViews(Group& group, QXmlStreamReader& reader)
+{
+    // The first of its name, as findView() gives it; a search for each view would be quadratic.
+    QHash<QString, View*> viewsByName;
+    for (auto it = group.views.crbegin(); it != group.views.crend(); ++it)
+        viewsByName.insert((*it)->name, it->get());
+    while (reader.readNextStartElement()) {
+        const QString name = attribute(reader, "Name");
+        const QString active = attribute(reader, "Active");
+        View*& view = viewsByName[name];
+        if (!view)
+            view = group.appendView(name);
+        readView(*view, reader);
+        if (active == QLatin1String("true") || active == QLatin1String("1"))
+            group.activeView = view;
+    }
+}
+
+void Manager::readView(View& view, QXmlStreamReader& reader)
+{
+    view.states.clear();
+    while (reader.readNextStartElement()) {
+        if (reader.name() == QLatin1String("State"))
+            readState(reader, view.states);
+        else
+            view.userData = QVariant(reader.readElementText());
+    }
+}
+
+bool Manager::viewsValid() const
+{
+    if (!m_mergeOnApply)
+        return true;
+    // Capturing asks the window owners, who are not const, and changes nothing here.
+    const QStringList ids = const_cast<Manager*>(this)->captureStates().keys();
+    for (const Group* group : m_groups) {
+        for (const auto& view : group->views) {
+            if (view->states.keys() != ids)
+                return false;
+        }
+    }
+    return true;
+}
+
+bool Manager::setFactoryDefaultView(const QByteArray& data)
+{
+    if (data.isEmpty() || !validateDocument(data))
+        return false;
+    m_factoryDefaultView = data;
+    Q_EMIT factoryDefaultViewChanged(true);
+    return true;
+}
+
+bool Manager::setProgramStartView(const QByteArray& data)
+{
+    if (data.isEmpty() || !validateDocument(data))
+        return false;
+    m_programStartView = data;
+    Q_EMIT programStartViewChanged(true);
+    return true;
+}
+
+bool Manager::factoryDefaultViewSet() const
+{
+    return !m_factoryDefaultView.isEmpty();
+}
+
+bool Manager::programStartViewSet() const
+{
+    return !m_programStartView.isEmpty();
+}
+
+bool Manager::activateFactoryDefaultView()
+{
+    return factoryDefaultViewSet() && fromXml(m_factoryDefaultView, /*merge=*/false);
+}
+
+bool Manager::activateProgramStartView()
+{
+    return programStartViewSet() && fromXml(m_programStartView, /*merge=*/false);
+}
+
+} // namespace Panorel
