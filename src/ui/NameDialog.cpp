@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "NameDialog.h"
+
+#include <panorel/Manager.h>
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace Panorel {
+
+namespace {
+
+// A red that can be read on the dialog's background, be it light or dark.
+QString errorStyleSheet(const QPalette& palette)
+{
+    const bool dark = palette.color(QPalette::Window).lightness() < 128;
+    return dark ? QStringLiteral("color: #ff9b91") : QStringLiteral("color: #b3261e");
+}
+
+} // namespace
+
+NameDialog::NameDialog(Manager* manager, const QStringList& existingNames, bool allowActiveName,
+                       QWidget* parent)
+    : QDialog(parent)
+    , m_nameEdit(new QLineEdit(this))
+    , m_messageLabel(new QLabel(this))
+    , m_buttonBox(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this))
+    , m_manager(manager)
+    , m_existingNames(existingNames)
+    , m_errorStyleSheet(errorStyleSheet(palette()))
+    , m_allowActiveName(allowActiveName)
+{
+    setWindowTitle(tr("Save Layout"));
+    auto* nameLabel = new QLabel(tr("&Name of the layout:"), this);
+    nameLabel->setBuddy(m_nameEdit);
+    m_messageLabel->setObjectName(QStringLiteral("messageLabel"));
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(nameLabel);
+    layout->addWidget(m_nameEdit);
+    layout->addWidget(m_messageLabel);
+    layout->addWidget(m_buttonBox);
+
+    connect(m_nameEdit, &QLineEdit::textChanged, this, &NameDialog::onTextChanged);
+    connect(m_buttonBox, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(m_buttonBox, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    onTextChanged(m_nameEdit->text());
+}
+
+QString NameDialog::name() const
+{
+    return m_nameEdit->text();
+}
+
+void NameDialog::onTextChanged(const QString& text)
+{
+    const QString problem = problemWith(text);
+    const bool acceptable = problem.isEmpty();
+    m_messageLabel->setStyleSheet(acceptable ? QString() : m_errorStyleSheet);
+    m_messageLabel->setText(problem);
+    m_buttonBox->button(QDialogButtonBox::Ok)->setEnabled(acceptable);
+    // The focus stays in the field, so this is where a screen reader tells the problem.
+    m_nameEdit->setAccessibleDescription(problem);
+}
+
+// Empty when the name is acceptable.
+QString NameDialog::problemWith(const QString& text) const
+{
+    if (text.trimmed().isEmpty())
+        return tr("Name must not be empty!");
+    // Deliberate: not trimmed, so a name with other blanks at its ends passes as new.
+    const bool isAllowed = m_allowActiveName && text == m_manager->activeView();
+    if (m_existingNames.contains(text) && !isAllowed)
+        return tr("Name already in use!");
+    return QString();
+}
+
+} // namespace Panorel
