@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <panorel/QtState.h>
 
+#include "ByteRun.h"
+
 #include <QByteArray>
 #include <QDataStream>
 #include <QFile>
-#include <QtEndian>
 
 #include <algorithm>
 #include <cstddef>
@@ -17,6 +18,7 @@ using Dock = QtState::DockAreaLayout::Dock;
 using Block = Dock::Block;
 using Item = Block::Item;
 using Line = QtState::ToolBarAreaLayout::Line;
+using Detail::ByteRun;
 
 // The in-class initialisers make them usable as constants; the definitions give them addresses
 // that are exported.
@@ -36,34 +38,6 @@ bool isOk(const QDataStream& stream)
     return stream.status() == QDataStream::Ok;
 }
 
-// Integers that follow each other go through the stream in one call: most of a blob is integers,
-// and a call for each costs more than everything else together.
-constexpr int maxRun = 6;
-
-bool readInts(QDataStream& stream, int* values, int count)
-{
-    Q_ASSERT(count <= maxRun);
-    char bytes[maxRun * sizeof(qint32)];
-    const int size = count * static_cast<int>(sizeof(qint32));
-    if (stream.readRawData(bytes, size) != size)
-        return false;
-    qFromBigEndian<qint32>(bytes, count, values);
-    return isOk(stream);
-}
-
-void writeInts(QDataStream& stream, const int* values, int count)
-{
-    Q_ASSERT(count <= maxRun);
-    char bytes[maxRun * sizeof(qint32)];
-    qToBigEndian<qint32>(values, count, bytes);
-    stream.writeRawData(bytes, count * static_cast<int>(sizeof(qint32)));
-}
-
-int sizeAsInt(std::size_t size)
-{
-    return static_cast<int>(size);
-}
-
 // Reads what stands before the items.
 bool readBlockHead(QDataStream& stream, Block& block, int& itemCount)
 {
@@ -72,10 +46,14 @@ bool readBlockHead(QDataStream& stream, Block& block, int& itemCount)
     block.tabbed = marker == QtState::QDockAreaLayoutInfo_TabMarker;
     if (!block.tabbed && marker != QtState::QDockAreaLayoutInfo_SequenceMarker)
         return false;
+    ByteRun run;
+    if (!run.readFrom(stream, (block.tabbed ? 2 : 1) * ByteRun::intSize + 1))
+        return false;
     if (block.tabbed)
-        stream >> block.currentIndex;
-    stream >> block.orientation;
-    return readInts(stream, &itemCount, 1);
+        block.currentIndex = run.takeInt();
+    block.orientation = run.takeByte();
+    itemCount = run.takeInt();
+    return true;
 }
 
 // Reads an item up to its nested block, which it creates.
@@ -84,31 +62,45 @@ bool readItemHead(QDataStream& stream, Item& item)
     quint8 marker = 0;
     stream >> marker;
     item.isSequence = marker == QtState::QDockAreaLayoutInfo_SequenceMarker;
+    if (!item.isSequence) {
+        if (marker != QtState::QDockAreaLayoutInfo_WidgetMarker)
+            return false;
+        stream >> item.objectName;
+    }
+    ByteRun run;
+    if (!run.readFrom(stream, 4 * ByteRun::intSize + (item.isSequence ? 0 : 1)))
+        return false;
     if (item.isSequence)
         item.subBlock = std::make_unique<Block>();
-    else if (marker == QtState::QDockAreaLayoutInfo_WidgetMarker)
-        stream >> item.objectName >> item.flags;
     else
-        return false;
-    return readInts(stream, item.values, 4);
+        item.flags = run.takeByte();
+    for (int& value : item.values)
+        value = run.takeInt();
+    return true;
 }
 
 void writeBlockHead(QDataStream& stream, const Block& block)
 {
+    ByteRun run;
     if (block.tabbed)
-        stream << QtState::QDockAreaLayoutInfo_TabMarker << block.currentIndex;
+        run.putByte(QtState::QDockAreaLayoutInfo_TabMarker).putInt(block.currentIndex);
     else
-        stream << QtState::QDockAreaLayoutInfo_SequenceMarker;
-    stream << block.orientation << sizeAsInt(block.items.size());
+        run.putByte(QtState::QDockAreaLayoutInfo_SequenceMarker);
+    run.putByte(block.orientation).putCount(block.items.size()).writeTo(stream);
 }
 
 void writeItemHead(QDataStream& stream, const Item& item)
 {
-    if (item.isSequence)
-        stream << QtState::QDockAreaLayoutInfo_SequenceMarker;
-    else
-        stream << QtState::QDockAreaLayoutInfo_WidgetMarker << item.objectName << item.flags;
-    writeInts(stream, item.values, 4);
+    ByteRun run;
+    if (item.isSequence) {
+        run.putByte(QtState::QDockAreaLayoutInfo_SequenceMarker);
+    } else {
+        stream << QtState::QDockAreaLayoutInfo_WidgetMarker << item.objectName;
+        run.putByte(item.flags);
+    }
+    for (const int value : item.values)
+        run.putInt(value);
+    run.writeTo(stream);
 }
 
 // Gives each record the leading part of @p items that ends where its own items end; @p itemsOf
@@ -128,55 +120,8 @@ void distributeItems(std::vector<Record>& records, const std::vector<std::size_t
 
 } // namespace
 
-// Nested blocks are walked with a list of what is still to do instead of recursion: a blob of a few
-// megabytes can nest deeper than any stack.
-
-std::unique_ptr<Block> Item::clone(const Block& source)
-{
-    struct Task
-    {
-        const Block* from;
-        Block* to;
-    };
-    auto result = std::make_unique<Block>();
-    std::vector<Task> tasks{{&source, result.get()}};
-    while (!tasks.empty()) {
-        const Task task = tasks.back();
-        tasks.pop_back();
-        task.to->tabbed = task.from->tabbed;
-        task.to->currentIndex = task.from->currentIndex;
-        task.to->orientation = task.from->orientation;
-        task.to->items.reserve(task.from->items.size());
-        for (const Item& item : task.from->items) {
-            Item& copy = task.to->items.emplace_back();
-            copy.isSequence = item.isSequence;
-            copy.objectName = item.objectName;
-            copy.flags = item.flags;
-            std::copy(std::begin(item.values), std::end(item.values), std::begin(copy.values));
-            if (item.subBlock) {
-                copy.subBlock = std::make_unique<Block>();
-                tasks.push_back({item.subBlock.get(), copy.subBlock.get()});
-            }
-        }
-    }
-    return result;
-}
-
-void Item::release(std::unique_ptr<Block> block) noexcept
-{
-    std::vector<std::unique_ptr<Block>> pending;
-    while (block) {
-        for (Item& item : block->items) {
-            if (item.subBlock)
-                pending.push_back(std::move(item.subBlock));
-        }
-        block.reset();
-        if (!pending.empty()) {
-            block = std::move(pending.back());
-            pending.pop_back();
-        }
-    }
-}
+// Nested blocks are read and written with a list of the open ones instead of recursion: a blob of a
+// few megabytes can nest deeper than any stack.
 
 QtState::QtState() = default;
 
@@ -233,22 +178,23 @@ bool QtState::readDockAreaLayout(QDataStream& stream)
     int dockCount = 0;
     stream >> dockCount;
     for (int i = 0; i < dockCount; ++i) {
-        int head[3];
-        if (!readInts(stream, head, 3) || !readDockAreaLayoutBlock(stream, block))
+        ByteRun head;
+        if (!head.readFrom(stream, 3 * ByteRun::intSize) || !readDockAreaLayoutBlock(stream, block))
             return false;
         Dock& dock = layout.docks.emplace_back();
-        dock.area = head[0];
-        dock.size = QSize(head[1], head[2]);
+        dock.area = head.takeInt();
+        dock.size = head.takeSize();
         dock.block.tabbed = block.tabbed;
         dock.block.currentIndex = block.currentIndex;
         dock.block.orientation = block.orientation;
         itemEnds.push_back(block.items.size());
     }
-    int tail[6];
-    if (!readInts(stream, tail, 6))
+    ByteRun tail;
+    if (!tail.readFrom(stream, 6 * ByteRun::intSize))
         return false;
-    layout.centralWidgetSize = QSize(tail[0], tail[1]);
-    std::copy(tail + 2, tail + 6, layout.corners);
+    layout.centralWidgetSize = tail.takeSize();
+    for (int& corner : layout.corners)
+        corner = tail.takeInt();
     distributeItems(layout.docks, itemEnds, std::move(block.items),
                     [](Dock& dock) -> std::vector<Item>& { return dock.block.items; });
     m_dockAreaLayouts.push_back(std::move(layout));
@@ -298,19 +244,22 @@ bool QtState::readToolBarAreaLayout(QDataStream& stream, int marker)
     int lineCount = 0;
     stream >> lineCount;
     for (int i = 0; i < lineCount; ++i) {
-        int head[2];
-        if (!readInts(stream, head, 2))
+        ByteRun head;
+        if (!head.readFrom(stream, 2 * ByteRun::intSize))
             return false;
-        for (int j = 0; j < head[1]; ++j) {
+        const int area = head.takeInt();
+        const int itemCount = head.takeInt();
+        for (int j = 0; j < itemCount; ++j) {
             ToolBarAreaLayout::Item& item = items.emplace_back();
-            stream >> item.objectName >> item.shown;
-            int values[4];
-            if (!readInts(stream, values, valueCount))
+            stream >> item.objectName;
+            ByteRun rest;
+            if (!rest.readFrom(stream, valueCount * ByteRun::intSize + 1))
                 return false;
+            item.shown = rest.takeByte();
             for (int k = 0; k < valueCount; ++k)
-                item.values[k].setX(values[k]);
+                item.values[k].setX(rest.takeInt());
         }
-        layout.lines.emplace_back().area = head[0];
+        layout.lines.emplace_back().area = area;
         itemEnds.push_back(items.size());
     }
     if (!isOk(stream))
@@ -335,19 +284,19 @@ QByteArray QtState::write() const
 
 void QtState::writeDockAreaLayout(QDataStream& stream, const DockAreaLayout& layout) const
 {
-    stream << QDockAreaLayout_DockWidgetStateMarker << sizeAsInt(layout.docks.size());
+    ByteRun()
+        .putByte(QDockAreaLayout_DockWidgetStateMarker)
+        .putCount(layout.docks.size())
+        .writeTo(stream);
     for (const Dock& dock : layout.docks) {
-        const int head[3] = {dock.area, dock.size.width(), dock.size.height()};
-        writeInts(stream, head, 3);
+        ByteRun().putInt(dock.area).putSize(dock.size).writeTo(stream);
         writeDockAreaLayoutBlock(stream, dock.block);
     }
-    const int tail[6] = {layout.centralWidgetSize.width(),
-                         layout.centralWidgetSize.height(),
-                         layout.corners[0],
-                         layout.corners[1],
-                         layout.corners[2],
-                         layout.corners[3]};
-    writeInts(stream, tail, 6);
+    ByteRun tail;
+    tail.putSize(layout.centralWidgetSize);
+    for (const int corner : layout.corners)
+        tail.putInt(corner);
+    tail.writeTo(stream);
 }
 
 void QtState::writeDockAreaLayoutBlock(QDataStream& stream, const Block& block) const
@@ -378,16 +327,21 @@ void QtState::writeDockAreaLayoutBlock(QDataStream& stream, const Block& block) 
 
 void QtState::writeToolBarAreaLayout(QDataStream& stream, const ToolBarAreaLayout& layout) const
 {
-    stream << (layout.extended ? QToolBarAreaLayout_ToolBarStateMarkerEx
-                               : QToolBarAreaLayout_ToolBarStateMarker)
-           << sizeAsInt(layout.lines.size());
+    const int valueCount = layout.extended ? 4 : 3;
+    ByteRun()
+        .putByte(layout.extended ? QToolBarAreaLayout_ToolBarStateMarkerEx
+                                 : QToolBarAreaLayout_ToolBarStateMarker)
+        .putCount(layout.lines.size())
+        .writeTo(stream);
     for (const Line& line : layout.lines) {
-        stream << line.area << sizeAsInt(line.items.size());
+        ByteRun().putInt(line.area).putCount(line.items.size()).writeTo(stream);
         for (const ToolBarAreaLayout::Item& item : line.items) {
-            stream << item.objectName << item.shown;
-            const int values[4] = {item.values[0].x(), item.values[1].x(), item.values[2].x(),
-                                   item.values[3].x()};
-            writeInts(stream, values, layout.extended ? 4 : 3);
+            stream << item.objectName;
+            ByteRun rest;
+            rest.putByte(item.shown);
+            for (int k = 0; k < valueCount; ++k)
+                rest.putInt(item.values[k].x());
+            rest.writeTo(stream);
         }
     }
 }
