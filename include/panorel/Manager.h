@@ -36,8 +36,8 @@ struct View;
  * toXml() and keep it.
  *
  * Use it on the GUI thread only. Signals are emitted synchronously, after the model has changed
- * unless said otherwise. A failed operation returns false, changes nothing and emits nothing;
- * nothing throws or logs.
+ * unless said otherwise; a receiver may call the Manager again but not delete it. A failed
+ * operation returns false, changes nothing and emits nothing; nothing throws or logs.
  *
  * View names are compared exactly and never checked: an empty name is stored like any other, and so
  * is "__current__", the internal name of the current view.

@@ -26,18 +26,25 @@ View* Group::appendView(const QString& viewName)
 {
     views.push_back(std::make_unique<View>());
     views.back()->name = viewName;
+    views.back()->serial = ++lastSerial;
     return views.back().get();
 }
 
-void Group::removeView(const View* view)
+void Group::removeView(quint64 serial)
 {
     const auto it = std::find_if(views.cbegin(), views.cend(),
-                                 [&](const auto& candidate) { return candidate.get() == view; });
+                                 [&](const auto& view) { return view->serial == serial; });
     if (it == views.cend())
         return;
-    if (activeView == view)
+    if (activeView == it->get())
         activeView = nullptr;
     views.erase(it);
+}
+
+void Group::removeAllViews()
+{
+    activeView = nullptr;
+    views.clear();
 }
 
 void Group::captureCurrentView()

@@ -26,8 +26,9 @@ struct Group
     View* findView(const QString& viewName) const;
     /** Appends an empty saved view. */
     View* appendView(const QString& viewName);
-    /** Destroys the saved view; does nothing if the group does not have it. */
-    void removeView(const View* view);
+    /** Destroys the saved view of this serial number, if the group still has it. */
+    void removeView(quint64 serial);
+    void removeAllViews();
 
     /** The live layout becomes the current view's. */
     void captureCurrentView();
@@ -47,6 +48,7 @@ struct Group
     std::vector<std::unique_ptr<View>> views;
     /** The working layout. It is never among views, so no name leads to it. */
     std::unique_ptr<View> currentView;
+    quint64 lastSerial = 0;
 };
 
 } // namespace Panorel

@@ -109,8 +109,12 @@ bool Manager::createView(const QString& name)
 {
     if (m_activeGroup->findView(name))
         return false;
-    View* view = m_activeGroup->appendView(name);
-    view->states = captureStates();
+    Group* group = m_activeGroup;
+    group->appendView(name);
+    const StateMap states = captureStates();
+    // Looked up again, for the window owners were asked, and what they do is theirs.
+    if (View* view = group->findView(name))
+        view->states = states;
     Q_EMIT groupModified();
     return true;
 }
@@ -118,11 +122,14 @@ bool Manager::createView(const QString& name)
 bool Manager::saveCurrentViewAs(const QString& name)
 {
     Group* group = m_activeGroup;
-    View* view = group->findView(name);
-    const bool created = !view;
+    const bool created = !group->findView(name);
     if (created)
-        view = group->appendView(name);
+        group->appendView(name);
     group->captureCurrentView();
+    // Looked up again, for the window owners were asked, and what they do is theirs.
+    View* view = group->findView(name);
+    if (!view)
+        view = group->appendView(name);
     view->states = group->currentView->states;
     group->activeView = view;
     if (created)
@@ -137,11 +144,14 @@ void Manager::deleteView(const QString& name)
     const View* view = group->findView(name);
     if (!view)
         return;
+    // A receiver may delete the view itself and even create one of the same name, so from here on
+    // it is known by its serial number.
+    const quint64 serial = view->serial;
     if (view == group->activeView) {
         group->activeView = nullptr;
         Q_EMIT viewActivated(emptyName());
     }
-    group->removeView(view);
+    group->removeView(serial);
     Q_EMIT groupModified();
 }
 
@@ -156,7 +166,7 @@ void Manager::clear()
         group->activeView = nullptr;
         if (active)
             Q_EMIT viewActivated(QString());
-        group->views.clear();
+        group->removeAllViews();
         if (active)
             Q_EMIT groupModified();
     }
@@ -249,10 +259,11 @@ StateMap Manager::mergeStates(const StateMap& stored, const StateMap& live)
 
 void Manager::applyStates(const StateMap& states)
 {
+    // Copied before any window owner is asked, for what they do may change the view.
+    StateMap working = states;
     if (m_mergeOnApply)
-        restoreStates(mergeStates(states, captureStates()));
-    else
-        restoreStates(states);
+        working = mergeStates(working, captureStates());
+    restoreStates(working);
 }
 
 Group* Manager::findGroup(const QString& name) const

@@ -15,6 +15,8 @@ struct View
     StateMap states;
     /** The application's data; read from and written to the document, and by nothing else. */
     QVariant userData;
+    /** Tells a saved view from others of its group, past ones included. */
+    quint64 serial = 0;
 };
 
 } // namespace Panorel
