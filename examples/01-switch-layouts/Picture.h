@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+class QImage;
+class QMainWindow;
+
+/**
+ * The window and its floating dock widgets where they stand on the screen, under captions
+ * painted here, for the offscreen platform has no window manager that draws them.
+ */
+QImage pictureOf(const QMainWindow& window);
