@@ -42,8 +42,8 @@ Place placeOf(const QMainWindow& window, QDockWidget& dock)
     // Only the tab on top is painted.
     const bool behind = dock.visibleRegion().isEmpty();
     if (!neighbours.isEmpty()) {
-        place.where += QStringLiteral(" with ") + neighbours.join(QStringLiteral(" and ")) +
-                       (behind ? QStringLiteral(" before it") : QString());
+        place.where += behind ? QStringLiteral(" behind ") : QStringLiteral(" with ");
+        place.where += neighbours.join(QStringLiteral(" and "));
     }
     if (!behind)
         place.geometry = dock.geometry();

@@ -11,7 +11,7 @@ class QMainWindow;
 struct Place
 {
     QString name;
-    /** In words, such as "left" or "right with Search, behind". */
+    /** In words, such as "left" or "right behind Search". */
     QString where;
     /** Invalid for what cannot be seen and for what floats, which a window manager may move. */
     QRect geometry;

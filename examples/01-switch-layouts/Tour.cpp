@@ -102,6 +102,8 @@ bool Tour::showViews(Panorel::Manager& manager)
 
 bool Tour::showGroups(Panorel::Manager& manager)
 {
+    // Saved in no view: it comes back all the same, for each group keeps a layout of its own.
+    m_window.dock(QStringLiteral("Project"))->raise();
     const Arrangement editing = settled();
     manager.activateGroup(groups[1]);
     arrangeForDebugging();
