@@ -15,6 +15,9 @@
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
+#include <array>
+#include <cstddef>
+
 namespace Panorel {
 
 namespace {
@@ -44,11 +47,48 @@ void writeStates(QXmlStreamWriter& writer, const QString& element, const StateMa
         writeState(writer, element, it.key(), it.value());
 }
 
+constexpr unsigned char noDigit = 0x80;
+
+constexpr std::array<unsigned char, 256> hexDigits()
+{
+    std::array<unsigned char, 256> digits{};
+    for (unsigned char& digit : digits)
+        digit = noDigit;
+    for (unsigned char value = 0; value < 10; ++value)
+        digits[static_cast<std::size_t>('0' + value)] = value;
+    for (unsigned char value = 10; value < 16; ++value) {
+        digits[static_cast<std::size_t>('a' + value - 10)] = value;
+        digits[static_cast<std::size_t>('A' + value - 10)] = value;
+    }
+    return digits;
+}
+
+// What QByteArray::fromHex() makes of the text. Pairs of digits and nothing else, which is what
+// toXml() writes, are decoded here in one pass: most of a document is such text.
+QByteArray stateFromHex(const QString& text)
+{
+    static constexpr std::array<unsigned char, 256> digits = hexDigits();
+    QByteArray state(text.size() / 2, Qt::Uninitialized);
+    const ushort* code = text.utf16();
+    unsigned codes = 0;
+    unsigned values = 0;
+    for (char& byte : state) {
+        const unsigned high = digits[code[0] & 0xFFU];
+        const unsigned low = digits[code[1] & 0xFFU];
+        codes |= code[0] | code[1];
+        values |= high | low;
+        byte = static_cast<char>(high << 4 | low);
+        code += 2;
+    }
+    const bool onlyPairs = text.size() % 2 == 0 && codes <= 0xFF && (values & noDigit) == 0;
+    return onlyPairs ? state : QByteArray::fromHex(text.toUtf8());
+}
+
 // Reads an element with a window's state into @p states; an empty state is dropped.
 void readState(QXmlStreamReader& reader, StateMap& states)
 {
     const QString descriptorId = attribute(reader, "DescriptorId");
-    const QByteArray state = QByteArray::fromHex(reader.readElementText().toUtf8());
+    const QByteArray state = stateFromHex(reader.readElementText());
     if (!state.isEmpty())
         states.insert(descriptorId, state);
 }
