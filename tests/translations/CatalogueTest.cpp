@@ -1,0 +1,306 @@
+// SPDX-License-Identifier: MIT
+#include "Catalogue.h"
+
+#include <QKeySequence>
+#include <QLocale>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTextCodec>
+#include <QtTest>
+
+using namespace Panorel::Tests;
+
+namespace {
+
+// The one Latin that is in every language: mnemonics such as "(&N)" and the pattern of view files.
+QString withoutLatinParts(QString text)
+{
+    static const QRegularExpression latin(QStringLiteral("\\(&[A-Z]\\)|\\*\\.views"));
+    return text.remove(latin);
+}
+
+QVector<QChar::Script> scriptsOf(const QString& language)
+{
+    static const QHash<QString, QVector<QChar::Script>> others{
+        {QStringLiteral("ar"), {QChar::Script_Arabic}},
+        {QStringLiteral("el"), {QChar::Script_Greek}},
+        {QStringLiteral("he"), {QChar::Script_Hebrew}},
+        {QStringLiteral("ja"), {QChar::Script_Han, QChar::Script_Hiragana, QChar::Script_Katakana}},
+        {QStringLiteral("ko"), {QChar::Script_Hangul}},
+        {QStringLiteral("ru"), {QChar::Script_Cyrillic}},
+        {QStringLiteral("uk"), {QChar::Script_Cyrillic}},
+        {QStringLiteral("zh_CN"), {QChar::Script_Han}},
+        {QStringLiteral("zh_TW"), {QChar::Script_Han}},
+    };
+    return others.value(language, {QChar::Script_Latin});
+}
+
+// The patterns of a file filter, whose words may be anything without a parenthesis.
+QStringList filterPatterns(const QString& filter)
+{
+    static const QRegularExpression entry(QStringLiteral("^[^()*;]*[^()*; ] \\(([^()]*)\\)$"));
+    QStringList patterns;
+    const QStringList entries = filter.split(QStringLiteral(";;"));
+    for (const QString& text : entries)
+        patterns.append(entry.match(text).captured(1));
+    return patterns;
+}
+
+QStringList placeholders(const QString& text)
+{
+    static const QRegularExpression placeholder(QStringLiteral("%(L?[0-9]+|n)"));
+    QStringList found;
+    for (auto it = placeholder.globalMatch(text); it.hasNext();)
+        found.append(it.next().captured());
+    found.sort();
+    return found;
+}
+
+bool isLetterMnemonic(const QKeySequence& mnemonic)
+{
+    const uint key = static_cast<uint>(mnemonic[0]) & ~static_cast<uint>(Qt::ALT);
+    return QChar::isLetter(key);
+}
+
+} // namespace
+
+/** Every catalogue is complete and has what a program relies on in the texts. */
+class CatalogueTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void sourceTexts();
+    void languages();
+    void hasEveryText_data() { addLanguages(); }
+    void hasEveryText();
+    void declaresItsLanguage_data() { addLanguages(); }
+    void declaresItsLanguage();
+    void isTranslated_data() { addMessages(); }
+    void isTranslated();
+    void hasNoBlanksAtItsEnds_data() { addMessages(); }
+    void hasNoBlanksAtItsEnds();
+    void keepsPlaceholders_data() { addMessages(); }
+    void keepsPlaceholders();
+    void keepsEnding_data() { addMessages(); }
+    void keepsEnding();
+    void keepsMnemonic_data() { addMessages(); }
+    void keepsMnemonic();
+    void keepsFileFilter_data() { addLanguages(); }
+    void keepsFileFilter();
+    void usesItsScript_data() { addMessages(); }
+    void usesItsScript();
+    void usesItsChineseCharacters_data();
+    void usesItsChineseCharacters();
+
+private:
+    static void addLanguages();
+    static void addMessages();
+
+    QTemporaryDir m_folder;
+    /** What lupdate finds in the source now. */
+    Catalogue m_source;
+};
+
+void CatalogueTest::addLanguages()
+{
+    QTest::addColumn<QString>("language");
+    const QStringList languages = catalogueLanguages();
+    for (const QString& language : languages)
+        QTest::newRow(qPrintable(language)) << language;
+}
+
+void CatalogueTest::addMessages()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<QString>("translation");
+    const QStringList languages = catalogueLanguages();
+    for (const QString& language : languages) {
+        const Catalogue catalogue = Catalogue::read(catalogueFile(language));
+        for (const Message& message : catalogue.messages()) {
+            QTest::newRow(qPrintable(language + QLatin1Char(' ') + message.source))
+                << language << message.source << message.translation;
+        }
+    }
+}
+
+void CatalogueTest::initTestCase()
+{
+    QVERIFY(m_folder.isValid());
+    const QString file = m_folder.filePath(QStringLiteral("source.ts"));
+    QProcess lupdate;
+    lupdate.start(QStringLiteral(LUPDATE), {QStringLiteral("-I"), QStringLiteral(INCLUDE_DIR),
+                                            QStringLiteral(UI_DIR), QStringLiteral("-ts"), file});
+    QVERIFY2(lupdate.waitForFinished(), qPrintable(lupdate.errorString()));
+    QCOMPARE(lupdate.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(lupdate.exitCode(), 0);
+    m_source = Catalogue::read(file);
+}
+
+void CatalogueTest::sourceTexts()
+{
+    const QStringList expected{
+        QStringLiteral("Panorel::Menu/Layouts"),
+        QStringLiteral("Panorel::Menu/Save Current Layout As..."),
+        QStringLiteral("Panorel::Menu/Delete Layout..."),
+        QStringLiteral("Panorel::Menu/Export ..."),
+        QStringLiteral("Panorel::Menu/Import ..."),
+        QStringLiteral("Panorel::Menu/Import & Merge ..."),
+        QStringLiteral("Panorel::Menu/Reset Layout to Program Start"),
+        QStringLiteral("Panorel::Menu/Reset Layout to Factory Default"),
+        QStringLiteral("Panorel::Menu/Save Layouts"),
+        QStringLiteral("Panorel::Menu/View File (*.views);;All Files (*.*)"),
+        QStringLiteral("Panorel::Menu/Load Layouts"),
+        QStringLiteral("Panorel::NameDialog/Save Layout"),
+        QStringLiteral("Panorel::NameDialog/&Name of the layout:"),
+        QStringLiteral("Panorel::NameDialog/Name must not be empty!"),
+        QStringLiteral("Panorel::NameDialog/Name already in use!"),
+    };
+    QStringList found;
+    for (const Message& message : m_source.messages())
+        found.append(message.key());
+    QCOMPARE(found, expected);
+}
+
+void CatalogueTest::languages()
+{
+    const QStringList promised{
+        QStringLiteral("ar"),    QStringLiteral("cs"),    QStringLiteral("da"),
+        QStringLiteral("de"),    QStringLiteral("el"),    QStringLiteral("es"),
+        QStringLiteral("fi"),    QStringLiteral("fr"),    QStringLiteral("he"),
+        QStringLiteral("hu"),    QStringLiteral("it"),    QStringLiteral("ja"),
+        QStringLiteral("ko"),    QStringLiteral("nb"),    QStringLiteral("nl"),
+        QStringLiteral("pl"),    QStringLiteral("pt_BR"), QStringLiteral("ru"),
+        QStringLiteral("sv"),    QStringLiteral("tr"),    QStringLiteral("uk"),
+        QStringLiteral("zh_CN"), QStringLiteral("zh_TW")};
+    const QStringList languages = catalogueLanguages();
+    for (const QString& language : promised)
+        QVERIFY2(languages.contains(language), qPrintable(language));
+}
+
+void CatalogueTest::hasEveryText()
+{
+    QFETCH(QString, language);
+    QStringList expected;
+    for (const Message& message : m_source.messages())
+        expected.append(message.key() + QLatin1String(" is finished"));
+    QStringList found;
+    const Catalogue catalogue = Catalogue::read(catalogueFile(language));
+    for (const Message& message : catalogue.messages()) {
+        const QString state = message.state.isEmpty() ? QStringLiteral("finished") : message.state;
+        found.append(message.key() + QLatin1String(" is ") + state);
+    }
+    QCOMPARE(found, expected);
+}
+
+void CatalogueTest::declaresItsLanguage()
+{
+    QFETCH(QString, language);
+    const QString declared = Catalogue::read(catalogueFile(language)).language();
+    // A bare "pt" would be Brazil's to Qt.
+    const QString expected = language == QLatin1String("pt") ? QStringLiteral("pt_PT") : language;
+    QCOMPARE(declared, QLocale(expected).name());
+}
+
+void CatalogueTest::isTranslated()
+{
+    QFETCH(QString, source);
+    QFETCH(QString, translation);
+    QVERIFY(!translation.isEmpty());
+    QVERIFY(translation.compare(source, Qt::CaseInsensitive) != 0);
+}
+
+void CatalogueTest::hasNoBlanksAtItsEnds()
+{
+    QFETCH(QString, translation);
+    QCOMPARE(translation, translation.trimmed());
+}
+
+void CatalogueTest::keepsPlaceholders()
+{
+    QFETCH(QString, source);
+    QFETCH(QString, translation);
+    QCOMPARE(placeholders(translation), placeholders(source));
+}
+
+// Three full stops, with a blank before them where the source has one; a colon may be a wide one.
+void CatalogueTest::keepsEnding()
+{
+    QFETCH(QString, source);
+    QFETCH(QString, translation);
+    static const QRegularExpression ending(QStringLiteral("( ?\\.\\.\\.|:|：)$"));
+    const QString found = ending.match(translation).captured();
+    QCOMPARE(found == QStringLiteral("：") ? QStringLiteral(":") : found,
+             ending.match(source).captured());
+    QVERIFY(!translation.contains(QChar(0x2026)));
+}
+
+void CatalogueTest::keepsMnemonic()
+{
+    QFETCH(QString, source);
+    QFETCH(QString, translation);
+    QCOMPARE(translation.count(QLatin1Char('&')), source.count(QLatin1Char('&')));
+    const QKeySequence wanted = QKeySequence::mnemonic(source);
+    const QKeySequence mnemonic = QKeySequence::mnemonic(translation);
+    // Each language has a letter of its own; "Import & Merge ..." has no letter but the blank.
+    QCOMPARE(isLetterMnemonic(mnemonic), isLetterMnemonic(wanted));
+    if (!isLetterMnemonic(wanted)) {
+        QCOMPARE(mnemonic, wanted);
+        QCOMPARE(translation.count(QStringLiteral(" & ")), source.count(QStringLiteral(" & ")));
+    }
+}
+
+void CatalogueTest::keepsFileFilter()
+{
+    QFETCH(QString, language);
+    const QString filter = Catalogue::read(catalogueFile(language))
+                               .translation(QStringLiteral("Panorel::Menu"),
+                                            QStringLiteral("View File (*.views);;All Files (*.*)"));
+    QCOMPARE(filterPatterns(filter),
+             QStringList({QStringLiteral("*.views"), QStringLiteral("*.*")}));
+}
+
+void CatalogueTest::usesItsScript()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, translation);
+    const QVector<QChar::Script> scripts = scriptsOf(language);
+    int letters = 0;
+    const QString text = withoutLatinParts(translation);
+    for (const QChar character : text) {
+        // Script_Common: the mark that lengthens a vowel in Japanese is a letter of no script.
+        if (!character.isLetter() || character.script() == QChar::Script_Common)
+            continue;
+        ++letters;
+        QVERIFY2(scripts.contains(character.script()), qPrintable(QString(character)));
+    }
+    QVERIFY(letters > 0);
+}
+
+void CatalogueTest::usesItsChineseCharacters_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QByteArray>("codec");
+    // A Qt without ICU knows fewer.
+    if (QTextCodec::codecForName("HZ-GB-2312"))
+        QTest::newRow("simplified") << QStringLiteral("zh_CN") << QByteArray("HZ-GB-2312");
+    QTest::newRow("traditional") << QStringLiteral("zh_TW") << QByteArray("Big5");
+}
+
+// The two old character sets have hardly a character of the other way of writing.
+void CatalogueTest::usesItsChineseCharacters()
+{
+    QFETCH(QString, language);
+    QFETCH(QByteArray, codec);
+    const QTextCodec* const characters = QTextCodec::codecForName(codec);
+    QVERIFY(characters);
+    const Catalogue catalogue = Catalogue::read(catalogueFile(language));
+    for (const Message& message : catalogue.messages())
+        QVERIFY2(characters->canEncode(message.translation), qPrintable(message.translation));
+}
+
+QTEST_GUILESS_MAIN(CatalogueTest)
+#include "CatalogueTest.moc"
