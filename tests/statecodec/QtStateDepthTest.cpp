@@ -12,17 +12,20 @@
 
 namespace Panorel::Test {
 
-/** Blocks nested a million deep, on an ordinary stack. */
+/**
+ * Blocks nested a million deep, and the same in other uses a little less deep to save time. The
+ * stack is an eighth of the ordinary one: five bytes for each level of the less deep blocks.
+ */
 class QtStateDepthTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QVERIFY(limitStack(8 * mebibyte)); }
+    void initTestCase() { QVERIFY(limitStack(mebibyte)); }
     void init() { m_watch.start(); }
     void cleanup() { QCOMPARE(m_watch.finish(), QStringList()); }
 
-    void readWriteCopyDestroy();
+    void millionLevels();
     void everyLevelIsThere();
     void mergedAndCleared();
     void earlierContentIsReleased();
@@ -35,7 +38,7 @@ private Q_SLOTS:
     void deepAndWide();
 
 private:
-    const int m_depth = 1000000;
+    const int m_depth = 200000;
     const QByteArray m_blob = deepBlob(m_depth);
     MessageWatch m_watch;
 };
@@ -66,14 +69,15 @@ QByteArray around(const QByteArray& block)
 
 } // namespace
 
-void QtStateDepthTest::readWriteCopyDestroy()
+void QtStateDepthTest::millionLevels()
 {
+    const QByteArray blob = deepBlob(1000000);
     QtState state;
-    QVERIFY(state.read(m_blob));
-    QCOMPARE(difference(state.write(), m_blob), QString());
+    QVERIFY(state.read(blob));
+    QCOMPARE(depthOf(blockOf(state)), 1000000);
     const QtState copy(state);
     state.clear();
-    QCOMPARE(difference(copy.write(), m_blob), QString());
+    QCOMPARE(difference(copy.write(), blob), QString());
 }
 
 void QtStateDepthTest::everyLevelIsThere()
@@ -161,7 +165,7 @@ void QtStateDepthTest::blocksAndListsAreCopied()
 
 void QtStateDepthTest::repeatedByTheNextRecord()
 {
-    const int depth = m_depth / 2;
+    const int depth = m_depth;
     QtState state;
     QVERIFY(state.read(deepBlob(depth, 2)));
     QCOMPARE(blockOf(state, 0).items.size(), std::size_t(1));
@@ -194,7 +198,7 @@ void QtStateDepthTest::builtByHand()
 // Every level holds a dock widget on either side of the nested block, so the way back up counts.
 void QtStateDepthTest::deepAndWide()
 {
-    const int depth = 100000;
+    const int depth = m_depth;
     const QByteArray down =
         BlobBuilder().sequence(1, 3).widget(text("L")).nested({1, 2, 3, 4}).blob();
     const QByteArray up = BlobBuilder().widget(text("R")).blob();
