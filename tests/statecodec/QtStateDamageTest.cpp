@@ -8,6 +8,8 @@
 
 #include <QtTest>
 
+#include <numeric>
+
 namespace Panorel::Test {
 
 /**
@@ -68,6 +70,19 @@ private:
     int m_accepted = 0;
 };
 
+/**
+ * The bits to change of each byte: every combination, but for large blobs only the single bits and
+ * those that lead from 0 or 0xFC to the markers.
+ */
+std::vector<int> changesFor(const QByteArray& blob)
+{
+    if (blob.size() > 300)
+        return {1, 2, 3, 4, 5, 6, 7, 8, 16, 32, 64, 128, 0xFC, 0xFD, 0xFE, 0xFF};
+    std::vector<int> all(255);
+    std::iota(all.begin(), all.end(), 1);
+    return all;
+}
+
 } // namespace
 
 void QtStateDamageTest::addBlobs()
@@ -101,18 +116,19 @@ void QtStateDamageTest::truncated()
 void QtStateDamageTest::changed()
 {
     QFETCH(QByteArray, blob);
+    const std::vector<int> changes = changesFor(blob);
     Comparison comparison;
     for (int offset = 0; offset < blob.size(); ++offset) {
-        for (int change = 1; change < 256; ++change) {
+        for (const int change : changes) {
             QByteArray damaged = blob;
             damaged[offset] = static_cast<char>(static_cast<unsigned char>(blob[offset]) ^ change);
             comparison.tryBlob(damaged);
         }
     }
     QCOMPARE(comparison.failure(), QString());
-    QCOMPARE(comparison.tried(), blob.size() * 255);
+    QCOMPARE(comparison.tried(), blob.size() * (blob.size() <= 300 ? 255 : 16));
     // The four leading bytes admit no other value at all.
-    QVERIFY(comparison.accepted() <= (blob.size() - 4) * 255);
+    QVERIFY(comparison.accepted() <= (comparison.tried() / blob.size()) * (blob.size() - 4));
 }
 
 void QtStateDamageTest::byteLeftOutOrDoubled()

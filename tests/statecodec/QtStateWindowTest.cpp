@@ -87,7 +87,7 @@ void QtStateWindowTest::writtenStateRestoresTheWindow()
     QtState state;
     QVERIFY(state.read(saved));
     QCOMPARE(difference(state.write(), saved), QString());
-    window.splitDockWidget(&window.m_first, &window.m_second, Qt::Vertical);
+    window.addDockWidget(Qt::RightDockWidgetArea, &window.m_second);
     QVERIFY(window.tabifiedDockWidgets(&window.m_first).isEmpty());
     QVERIFY(window.restoreState(state.write()));
     QCOMPARE(window.tabifiedDockWidgets(&window.m_first), {&window.m_second});
