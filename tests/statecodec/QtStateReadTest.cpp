@@ -33,10 +33,6 @@ private Q_SLOTS:
     void currentIndexOnlyAfterTabMarker();
     void nestedBlock();
     void tabsInsideSequenceInsideTabs();
-    void dockNames_data();
-    void dockNames();
-    void toolBarNames_data();
-    void toolBarNames();
     void extendedSectionTakesFourValues();
     void shortSectionTakesThreeValues();
     void sectionMarkersMeanOtherThingsInside();
@@ -67,23 +63,6 @@ void compareValues(const ToolBarItem& item, std::initializer_list<int> expected)
 QByteArray blobAround(const BlobBuilder& block)
 {
     return soundHead().dockSection(1).dock(0, 10, 20).raw(block.blob()).dockTail().blob();
-}
-
-void addNames()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("expected");
-    QTest::addRow("null") << QByteArray::fromHex("FFFFFFFF") << QString();
-    QTest::addRow("empty") << QByteArray::fromHex("00000000") << QStringLiteral("");
-    QTest::addRow("ASCII") << QByteArray::fromHex("00000004 0041 0062") << QStringLiteral("Ab");
-    QTest::addRow("high bytes") << QByteArray::fromHex("00000004 20AC FF21")
-                                << QString::fromUtf16(u"\u20AC\uFF21");
-    QTest::addRow("surrogate pair")
-        << QByteArray::fromHex("00000004 D83D DE00") << QString::fromUtf16(u"\U0001F600");
-    QTest::addRow("zero unit") << QByteArray::fromHex("00000006 0041 0000 0042")
-                               << QString(QStringLiteral("A") + QChar(0) + QStringLiteral("B"));
-    QTest::addRow("looks like markers")
-        << QByteArray::fromHex("00000004 FDFC FBFA") << QString::fromUtf16(u"\uFDFC\uFBFA");
 }
 
 } // namespace
@@ -307,40 +286,6 @@ void QtStateReadTest::tabsInsideSequenceInsideTabs()
     QCOMPARE(inner.currentIndex, 2);
     QCOMPARE(inner.items.at(0).objectName, QStringLiteral("B"));
     QCOMPARE(middle.items[1].objectName, QStringLiteral("C"));
-}
-
-void QtStateReadTest::dockNames_data()
-{
-    addNames();
-}
-
-void QtStateReadTest::dockNames()
-{
-    QFETCH(QByteArray, bytes);
-    QFETCH(QString, expected);
-    BlobBuilder block = BlobBuilder().sequence(1, 1).byte(0xFB).raw(bytes).byte(1);
-    QtState state;
-    QVERIFY(state.read(blobAround(block.ints({1, 2, 3, 4}))));
-    const DockItem& item = state.m_dockAreaLayouts.at(0).docks.at(0).block.items.at(0);
-    QCOMPARE(difference("name", item.objectName, expected), QString());
-    compareValues(item, {1, 2, 3, 4});
-}
-
-void QtStateReadTest::toolBarNames_data()
-{
-    addNames();
-}
-
-void QtStateReadTest::toolBarNames()
-{
-    QFETCH(QByteArray, bytes);
-    QFETCH(QString, expected);
-    BlobBuilder blob = soundHead().toolBarSection(1).line(2, 1).raw(bytes).byte(1);
-    QtState state;
-    QVERIFY(state.read(blob.ints({1, 2, 3, 4}).blob()));
-    const ToolBarItem& item = state.m_toolBarAreaLayouts.at(0).lines.at(0).items.at(0);
-    QCOMPARE(difference("name", item.objectName, expected), QString());
-    compareValues(item, {1, 2, 3, 4});
 }
 
 void QtStateReadTest::extendedSectionTakesFourValues()

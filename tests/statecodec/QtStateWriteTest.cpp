@@ -33,8 +33,6 @@ private Q_SLOTS:
     void dockItemOmitsSubBlock();
     void nestedItemWithoutBlockIsAnEmptySequence();
     void deeperBlocks();
-    void namesAreKeptApart_data();
-    void namesAreKeptApart();
     void shortSectionWritesThreeValues();
     void extendedSectionWritesFourValues();
     void yCoordinatesAreIgnored();
@@ -220,36 +218,6 @@ void QtStateWriteTest::deeperBlocks()
     QtState state;
     QVERIFY(state.read(blob.blob()));
     QCOMPARE(difference(state.write(), blob.blob()), QString());
-}
-
-void QtStateWriteTest::namesAreKeptApart_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addRow("null") << QString() << QByteArray::fromHex("FFFFFFFF");
-    QTest::addRow("empty") << QStringLiteral("") << QByteArray::fromHex("00000000");
-    QTest::addRow("beyond ASCII") << QString::fromUtf16(u"\u20ACz")
-                                  << QByteArray::fromHex("00000004 20AC 007A");
-}
-
-void QtStateWriteTest::namesAreKeptApart()
-{
-    QFETCH(QString, name);
-    QFETCH(QByteArray, bytes);
-    BlobBuilder blob = soundHead().dockSection(1).dock(0, 1, 1).sequence(1, 1);
-    blob.byte(0xFB).raw(bytes).byte(1).ints({0, 0, 0, 0}).dockTail();
-    blob.toolBarSection(1).line(2, 1).raw(bytes).byte(1).ints({0, 0, 0, 0});
-    blob.shortToolBarSection(1).line(2, 1).raw(bytes).byte(1).ints({0, 0, 0});
-    QtState state;
-    QVERIFY(state.read(blob.blob()));
-    QCOMPARE(
-        difference("name", state.m_dockAreaLayouts[0].docks[0].block.items[0].objectName, name),
-        QString());
-    QCOMPARE(difference("name", state.m_toolBarAreaLayouts[0].lines[0].items[0].objectName, name),
-             QString());
-    QCOMPARE(difference(state.write(), blob.blob()), QString());
-    const QtState copy(state);
-    QCOMPARE(difference(copy.write(), blob.blob()), QString());
 }
 
 void QtStateWriteTest::shortSectionWritesThreeValues()
