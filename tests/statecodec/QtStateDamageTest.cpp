@@ -3,6 +3,7 @@
 #include "support/MessageWatch.h"
 #include "support/RecordedBlobs.h"
 #include "support/ReferenceReader.h"
+#include "support/ResourceLimits.h"
 
 #include <panorel/QtState.h>
 
@@ -71,12 +72,12 @@ private:
 };
 
 /**
- * The bits to change of each byte: every combination, but for large blobs only the single bits and
- * those that lead from 0 or 0xFC to the markers.
+ * The bits to change of each byte: every combination, but where that takes minutes only the single
+ * bits and those that lead from 0 or 0xFC to the markers.
  */
 std::vector<int> changesFor(const QByteArray& blob)
 {
-    if (blob.size() > 300)
+    if (blob.size() > 300 || hasAddressSanitizer)
         return {1, 2, 3, 4, 5, 6, 7, 8, 16, 32, 64, 128, 0xFC, 0xFD, 0xFE, 0xFF};
     std::vector<int> all(255);
     std::iota(all.begin(), all.end(), 1);
@@ -126,7 +127,7 @@ void QtStateDamageTest::changed()
         }
     }
     QCOMPARE(comparison.failure(), QString());
-    QCOMPARE(comparison.tried(), blob.size() * (blob.size() <= 300 ? 255 : 16));
+    QCOMPARE(comparison.tried(), blob.size() * static_cast<int>(changes.size()));
     // The four leading bytes admit no other value at all.
     QVERIFY(comparison.accepted() <= (comparison.tried() / blob.size()) * (blob.size() - 4));
 }
