@@ -119,10 +119,10 @@ void QtStateDumpTest::readOnlyFileIsLeftAlone()
 {
     writeFile(path("old"), "content");
     QVERIFY(QFile::setPermissions(path("old"), QFileDevice::ReadOwner));
-    if (QFile(path("old")).open(QIODevice::ReadWrite))
-        QSKIP("This user may write to read-only files");
+    // A privileged user may write all the same.
+    const bool writable = QFile(path("old")).open(QIODevice::ReadWrite);
     m_state.dump(path("old"));
-    QCOMPARE(QFileInfo(path("old")).size(), qint64(7));
+    QCOMPARE(QFileInfo(path("old")).size(), qint64(writable ? 0 : 7));
 }
 
 void QtStateDumpTest::fileIsClosedAfterwards()
