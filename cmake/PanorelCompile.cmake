@@ -23,4 +23,14 @@ function(panorel_compile_settings target)
         target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
             -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast)
     endif()
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+        # Qt's own macros are called so, QSKIP() for one.
+        target_compile_options(${target} PRIVATE -Wno-gnu-zero-variadic-macro-arguments)
+    endif()
 endfunction()
+
+# clang-tidy takes its settings from the folder of the file it reads. Nobody can mend what moc writes
+# into the build folder, so a single check, which cannot fire in Qt code, is all that runs there.
+if(CMAKE_CXX_CLANG_TIDY)
+    file(WRITE "${PROJECT_BINARY_DIR}/.clang-tidy" "Checks: '-*,llvm-twine-local'\n")
+endif()
