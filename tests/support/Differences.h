@@ -99,7 +99,7 @@ inline QString difference(const Block& actual, const Block& expected);
 /** Name and flags are compared of dock widgets only, for a nested item carries none. */
 inline QString difference(const DockItem& actual, const DockItem& expected)
 {
-    const QString own =
+    QString own =
         firstOf({difference("isSequence", actual.isSequence, expected.isSequence),
                  difference("values", actual.values, expected.values),
                  difference("subBlock", actual.subBlock != nullptr, expected.subBlock != nullptr)});

@@ -19,7 +19,7 @@ constexpr bool hasAddressSanitizer = __has_feature(address_sanitizer);
 constexpr bool hasAddressSanitizer = false;
 #endif
 
-constexpr quint64 mebibyte = 1024 * 1024;
+constexpr quint64 mebibyte = quint64(1024) * 1024;
 
 #ifdef Q_OS_UNIX
 inline bool lowerLimit(decltype(RLIMIT_CORE) resource, quint64 bytes)
