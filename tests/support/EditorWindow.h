@@ -4,6 +4,7 @@
 #include "support/Text.h"
 
 #include <QDockWidget>
+#include <QList>
 #include <QMainWindow>
 #include <QTextEdit>
 #include <QToolBar>
@@ -35,7 +36,10 @@ public:
     QToolBar* editBar = bar("Edit"_s);
     QToolBar* viewBar = bar("View"_s);
 
-    /** Undoes nothing: turns the docks of the initial layout into a plainly different one. */
+    QList<QDockWidget*> docks() const { return {files, outline, properties, output, palette}; }
+    QList<QToolBar*> bars() const { return {mainBar, editBar, viewBar}; }
+
+    /** Top: Files; right: Outline and Palette; left: Properties; Output is hidden. */
     void rearrangeDocks()
     {
         addDockWidget(Qt::TopDockWidgetArea, files);
@@ -45,13 +49,13 @@ public:
         palette->setFloating(false);
     }
 
+    /** Left: Main; bottom: View, without a line of its own; Edit is hidden. */
     void rearrangeBars()
     {
         addToolBar(Qt::LeftToolBarArea, mainBar);
-        insertToolBarBreak(viewBar);
         removeToolBarBreak(viewBar);
-        editBar->hide();
         addToolBar(Qt::BottomToolBarArea, viewBar);
+        editBar->hide();
     }
 
 private:

@@ -32,7 +32,9 @@ private:
 
     static void collect(QtMsgType, const QMessageLogContext&, const QString& message)
     {
-        collected().append(message);
+        // The offscreen platform says so for every window that is shown.
+        if (!message.startsWith("This plugin does not support "_s))
+            collected().append(message);
     }
 
     QtMessageHandler m_previous = nullptr;
