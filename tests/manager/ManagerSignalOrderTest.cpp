@@ -21,6 +21,7 @@ private Q_SLOTS:
 
     void createView();
     void createTakenView();
+    void createViewCapturesFirst();
 
     void saveNewView();
     void saveExistingView();
@@ -84,6 +85,17 @@ void ManagerSignalOrderTest::createTakenView()
     const SignalLog log(manager);
     QCOMPARE(manager.createView("a"_s), false);
     QCOMPARE(log.lines(), QStringList());
+}
+
+void ManagerSignalOrderTest::createViewCapturesFirst()
+{
+    Owner owner;
+    Manager manager(lines({"G"}), false);
+    manager.registerManagable(owner);
+    int callsAtSignal = 0;
+    connect(&manager, &Manager::groupModified, &manager, [&] { callsAtSignal = owner.calls; });
+    QVERIFY(manager.createView("a"_s));
+    QCOMPARE(callsAtSignal, 1);
 }
 
 void ManagerSignalOrderTest::saveNewView()
