@@ -25,6 +25,7 @@ private Q_SLOTS:
     void emptiesGroupsInOrder_data();
     void emptiesGroupsInOrder();
     void asksForTheActiveGroupAtEachGroup();
+    void asksForTheActiveGroupOncePerGroup();
 };
 
 void ManagerClearTest::removesAllViewsOfAllGroups()
@@ -168,6 +169,28 @@ void ManagerClearTest::asksForTheActiveGroupAtEachGroup()
         lines({"viewActivated('') [G: g; active null]", "groupModified() [G: g; active null]",
                "viewActivated(null) [G: g; active null]", "groupModified() [G: ; active null]",
                "viewActivated(null) [H: h; active null]", "groupModified() [H: ; active null]"}));
+}
+
+void ManagerClearTest::asksForTheActiveGroupOncePerGroup()
+{
+    Manager manager(lines({"G", "H"}), false);
+    QVERIFY(manager.createView("g"_s));
+    const SignalLog log(manager, SignalLog::SignalsAndModel);
+    bool switched = false;
+    connect(&manager, &Manager::viewActivated, &manager, [&](const QString& name) {
+        if (!name.isNull() || switched)
+            return;
+        switched = true;
+        const QSignalBlocker blocker(manager);
+        QVERIFY(manager.activateGroup("H"_s));
+    });
+    manager.clear();
+    // The fourth signal is still G's, whose turn it was when it was asked.
+    QCOMPARE(
+        log.lines(),
+        lines({"viewActivated('') [G: g; active null]", "groupModified() [G: g; active null]",
+               "viewActivated(null) [G: g; active null]", "groupModified() [H: ; active null]",
+               "viewActivated(null) [H: ; active null]", "groupModified() [H: ; active null]"}));
 }
 
 QTEST_MAIN(ManagerClearTest)
