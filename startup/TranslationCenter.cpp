@@ -2,13 +2,13 @@
 #include "TranslationCenter.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QStandardPaths>
 #include <QThread>
 #include <QTranslator>
-#include <QVector>
 
 #ifdef Q_OS_WIN
 #include <windows.h>
@@ -36,7 +36,7 @@ QString libraryFile()
     Dl_info info;
     if (!dladdr(reinterpret_cast<void*>(&libraryFile), &info))
         return QString();
-    return QString::fromLocal8Bit(info.dli_fname);
+    return QFile::decodeName(info.dli_fname);
 #endif
 }
 
@@ -45,8 +45,10 @@ QStringList catalogueFolders(const QString& module)
     const QString program = QCoreApplication::applicationDirPath();
     const QString inDataFolder = QLatin1Char('/') + module + QLatin1String("/translations");
     QStringList folders{program, program + QLatin1String("/translations")};
-    folders += QFileInfo(libraryFile()).absolutePath() + QLatin1String("/" TUMO_DATA_FROM_LIBRARY) +
-               inDataFolder;
+    const QString library = libraryFile();
+    if (!library.isEmpty())
+        folders += QFileInfo(library).absolutePath() + QLatin1String("/" TUMO_DATA_FROM_LIBRARY) +
+                   inDataFolder;
     const QStringList dataFolders =
         QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation);
     for (const QString& folder : dataFolders)
@@ -55,70 +57,96 @@ QStringList catalogueFolders(const QString& module)
     return folders;
 }
 
-// "de-AT" gives "de_AT" and "de".
-QStringList catalogueLanguages(const QString& uiLanguage)
+// "zh_Hant_TW" gives "zh_Hant".
+QStringList shortenedLanguages(const QString& language)
 {
-    QString language = uiLanguage;
-    language.replace(QLatin1Char('-'), QLatin1Char('_'));
-    QStringList languages{language};
-    for (int end = language.lastIndexOf(QLatin1Char('_')); end > 0;
+    QStringList shortened;
+    for (int end = language.lastIndexOf(QLatin1Char('_')); end > language.indexOf(QLatin1Char('_'));
          end = language.lastIndexOf(QLatin1Char('_'), end - 1))
-        languages += language.left(end);
+        shortened += language.left(end);
+    return shortened;
+}
+
+// The texts in the code are English: nothing that the user likes less is wanted instead.
+bool isSourceLanguage(const QString& language)
+{
+    return language == QLatin1String("en") || language == QLatin1String("C");
+}
+
+QString bareLanguage(const QString& language)
+{
+    return language.section(QLatin1Char('_'), 0, 0);
+}
+
+// The user's languages in the form that names of catalogues have. Qt lists each in several forms
+// ("zh-TW", "zh-Hant-TW"), and all of them go before the bare language, for "zh" alone is written
+// in another script.
+QStringList catalogueLanguages()
+{
+    QStringList uiLanguages = QLocale::system().uiLanguages();
+    uiLanguages.replaceInStrings(QStringLiteral("-"), QStringLiteral("_"));
+    QStringList languages;
+    for (int i = 0; i < uiLanguages.size();) {
+        const QString bare = bareLanguage(uiLanguages[i]);
+        QStringList shortened;
+        for (; i < uiLanguages.size() && bareLanguage(uiLanguages[i]) == bare; ++i) {
+            languages += uiLanguages[i];
+            shortened += shortenedLanguages(uiLanguages[i]);
+        }
+        languages += shortened;
+        languages += bare;
+        if (isSourceLanguage(bare))
+            break;
+    }
+    languages.removeDuplicates();
     return languages;
 }
 
-bool isSourceLanguage(const QString& uiLanguage)
-{
-    return uiLanguage == QLatin1String("C") || uiLanguage == QLatin1String("en") ||
-           uiLanguage.startsWith(QLatin1String("en-"));
-}
-
+// Null where there is none. The application owns it, as it does everything that it shows.
 QTranslator* loadCatalogue(const QString& name)
 {
     const QString module = name.toLower();
+    // The name becomes a part of file names and must not lead elsewhere.
+    if (QFileInfo(module).fileName() != module)
+        return nullptr;
+    // Empty, and not null: QTranslator is neither to add a suffix nor to try shorter names.
+    const QString none = QLatin1String("");
     const QStringList folders = catalogueFolders(module);
-    const QStringList uiLanguages = QLocale::system().uiLanguages();
+    const QStringList languages = catalogueLanguages();
     auto translator = std::make_unique<QTranslator>();
-    for (const QString& uiLanguage : uiLanguages) {
-        const QStringList languages = catalogueLanguages(uiLanguage);
-        for (const QString& language : languages) {
-            for (const QString& folder : folders) {
-                const QString file = folder + QLatin1Char('/') + module + QLatin1Char('_') +
-                                     language + QLatin1String(".qm");
-                // Asked first, for QTranslator would go on to look for shorter names.
-                if (QFileInfo(file).isFile() && translator->load(file))
-                    return translator.release();
+    for (const QString& language : languages) {
+        const QString file =
+            QLatin1Char('/') + module + QLatin1Char('_') + language + QLatin1String(".qm");
+        for (const QString& folder : folders) {
+            if (translator->load(folder + file, none, none, none)) {
+                translator->setParent(QCoreApplication::instance());
+                return translator.release();
             }
         }
-        // The texts in the code are English: whoever prefers it over what follows has it already.
-        if (isSourceLanguage(uiLanguage))
-            break;
     }
     return nullptr;
 }
 
-// Without an application nothing is installed any more. With one, the texts go at once, and the
-// object when the event loop next runs: at the end of a process, when there is no next time, no
-// widget is sent a language change.
+// The texts go at once, and the object when the event loop next runs: at the end of a process, when
+// there is no next time, no widget is sent a language change.
 void removeCatalogue(QTranslator* translator)
 {
     if (!translator)
         return;
-    if (!QCoreApplication::instance()) {
-        delete translator;
-        return;
-    }
     (void)translator->load(static_cast<const uchar*>(nullptr), 0);
     translator->deleteLater();
 }
 
 } // namespace
 
-TranslationCenter::TranslationCenter()
-{
+// Not left to the constructor: with an application in place Qt calls the routine at once, and that
+// needs the service.
+const bool TranslationCenter::s_followsApplication = [] {
     qAddPreRoutine(onApplicationCreated);
-}
+    return true;
+}();
 
+TranslationCenter::TranslationCenter() = default;
 TranslationCenter::~TranslationCenter() = default;
 
 TranslationCenter& TranslationCenter::Instance()
@@ -148,52 +176,45 @@ void TranslationCenter::Unregister(const QString& name)
 
 void TranslationCenter::onApplicationCreated()
 {
-    TranslationCenter& center = Instance();
-    QHash<QString, QTranslator*> stale;
-    {
-        // What was installed has ended with the application object before.
-        const QMutexLocker lock(&center.m_mutex);
-        center.m_translators.swap(stale);
-    }
-    qDeleteAll(stale);
-    center.update();
+    // What was installed has ended with the application object before, which owned it.
+    Instance().m_translators.clear();
+    Instance().updateOnApplicationThread();
 }
 
 void TranslationCenter::updateOnApplicationThread()
 {
     QCoreApplication* application = QCoreApplication::instance();
-    if (!application || QThread::currentThread() == application->thread())
+    if (!application)
+        return;
+    if (QThread::currentThread() == application->thread())
         update();
     else
         QMetaObject::invokeMethod(
             application, [] { Instance().update(); }, Qt::QueuedConnection);
 }
 
+QStringList TranslationCenter::registeredNames()
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_names;
+}
+
 void TranslationCenter::update()
 {
-    QVector<QTranslator*> removed;
-    QVector<QTranslator*> added;
-    {
-        const QMutexLocker lock(&m_mutex);
-        for (auto it = m_translators.begin(); it != m_translators.end();) {
-            if (m_names.contains(it.key())) {
-                ++it;
-            } else {
-                removed.append(it.value());
-                it = m_translators.erase(it);
-            }
-        }
-        if (QCoreApplication::instance()) {
-            for (const QString& name : qAsConst(m_names)) {
-                if (!m_translators.contains(name))
-                    added.append(*m_translators.insert(name, loadCatalogue(name)));
-            }
+    const QStringList names = registeredNames();
+    for (auto it = m_translators.begin(); it != m_translators.end();) {
+        if (names.contains(it.key())) {
+            ++it;
+        } else {
+            removeCatalogue(it.value());
+            it = m_translators.erase(it);
         }
     }
-    // Outside the lock, for a language change reaches code that may load further libraries.
-    for (QTranslator* translator : qAsConst(removed))
-        removeCatalogue(translator);
-    for (QTranslator* translator : qAsConst(added)) {
+    for (const QString& name : names) {
+        // Asked anew, for the language change reaches code that may load and unload libraries.
+        if (m_translators.contains(name) || !registeredNames().contains(name))
+            continue;
+        QTranslator* translator = *m_translators.insert(name, loadCatalogue(name));
         if (translator)
             QCoreApplication::installTranslator(translator);
     }
