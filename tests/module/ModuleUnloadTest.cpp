@@ -119,5 +119,5 @@ void ModuleUnloadTest::leavesAfterUse()
     QVERIFY(!QFile::exists(schemaPath()));
 }
 
-QTEST_MAIN(ModuleUnloadTest)
+QTEST_GUILESS_MAIN(ModuleUnloadTest)
 #include "ModuleUnloadTest.moc"
