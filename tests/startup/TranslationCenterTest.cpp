@@ -302,6 +302,10 @@ void TranslationCenterTest::tellsTheWidgets_data()
                             << QStringLiteral("application-changed window-changed one");
     QTest::newRow("unloaded") << QStringLiteral("load widgets events unload text events exit")
                               << QStringLiteral("Layouts application-changed window-changed");
+    QTest::newRow("change unregisters another")
+        << QStringLiteral("widgets unregister-on-change:Panorel register-in-thread:First "
+                          "register:Panorel text")
+        << QStringLiteral("application-changed two");
     QTest::newRow("exit") << QStringLiteral("load widgets events text exit")
                           << QStringLiteral("one");
     QTest::newRow("return") << QStringLiteral("load widgets events text") << QStringLiteral("one");
@@ -314,6 +318,7 @@ void TranslationCenterTest::tellsTheWidgets()
     InstalledTree tree;
     QVERIFY(tree.isValid());
     QVERIFY(tree.add(QStringLiteral("bin/panorel_de.qm=one")));
+    QVERIFY(tree.add(QStringLiteral("bin/first_de.qm=two")));
     // How often Qt tells of one change is its own business.
     QStringList words = tree.run(QStringLiteral("de"), steps).split(QLatin1Char(' '));
     words.removeDuplicates();

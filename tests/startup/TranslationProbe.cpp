@@ -15,6 +15,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <utility>
 
 // Carries out the steps named by its arguments, each with an operand after a colon where it takes
 // one, and prints what can be seen of the translations. TranslationCenterTest writes the steps.
@@ -27,6 +28,9 @@ void print(const QString& word)
     std::fflush(stdout);
 }
 
+// What the application unregisters when the language next changes.
+QString unregisteredOnChange;
+
 // Both print the language changes that reach them.
 class Application : public QApplication
 {
@@ -34,8 +38,11 @@ public:
     using QApplication::QApplication;
     bool event(QEvent* event) override
     {
-        if (event->type() == QEvent::LanguageChange)
+        if (event->type() == QEvent::LanguageChange) {
             print(QStringLiteral("application-changed"));
+            if (!unregisteredOnChange.isEmpty())
+                TranslationCenter::Instance().Unregister(std::exchange(unregisteredOnChange, {}));
+        }
         return QApplication::event(event);
     }
 };
@@ -125,6 +132,8 @@ Probe::Probe(int& argc, char** argv)
         {QStringLiteral("end-app"), [this](const QString&) { m_application.reset(); }},
         {QStringLiteral("register"), registerName},
         {QStringLiteral("unregister"), unregisterName},
+        {QStringLiteral("unregister-on-change"),
+         [](const QString& name) { unregisteredOnChange = name; }},
         {QStringLiteral("register-in-thread"),
          [](const QString& name) { inOtherThread([name] { registerName(name); }); }},
         {QStringLiteral("unregister-in-thread"),
