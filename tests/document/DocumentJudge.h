@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "DocumentFixture.h"
+
+#include <QtTest>
+
+namespace Panorel::DocumentTests {
+
+/** Counts what is logged while it lives. */
+class LogCounter
+{
+public:
+    LogCounter()
+    {
+        s_lines.clear();
+        m_previous = qInstallMessageHandler(&LogCounter::handle);
+    }
+    ~LogCounter() { qInstallMessageHandler(m_previous); }
+    LogCounter(const LogCounter&) = delete;
+    LogCounter& operator=(const LogCounter&) = delete;
+
+    QStringList lines() const { return s_lines; }
+
+private:
+    static void handle(QtMsgType, const QMessageLogContext&, const QString& message)
+    {
+        s_lines.append(message);
+    }
+
+    static inline QStringList s_lines;
+    QtMessageHandler m_previous = nullptr;
+};
+
+/** A Manager with two groups and a window, into which documents are put. */
+class DocumentJudge
+{
+public:
+    DocumentJudge()
+    {
+        owner.windows = {{text("w"), &window}};
+        manager.registerManagable(owner);
+        const QByteArray groups =
+            group("A", view("a1", state("w", "aa") + userData("kept"), "true") + view("a2")) +
+            group("B", view("b1", state("x", "bb"), "true"), state("w", "cc"));
+        m_ready = manager.fromXml(document(groups), /*merge=*/false) &&
+                  manager.setFactoryDefaultView(document(group("A", view("factory"))));
+        record.lines.clear();
+    }
+
+    /** All four ways by which a document comes in take it. */
+    void expectAccepted(const QByteArray& data)
+    {
+        QVERIFY(m_ready);
+        const LogCounter log;
+        QVERIFY(manager.setFactoryDefaultView(data));
+        QVERIFY(manager.setProgramStartView(data));
+        QVERIFY(manager.fromXml(data, /*merge=*/true));
+        QVERIFY(manager.fromXml(data, /*merge=*/false));
+        QCOMPARE(log.lines(), QStringList());
+    }
+
+    /** All four ways refuse it, and nothing changes and nothing is emitted or logged. */
+    void expectRefused(const QByteArray& data)
+    {
+        QVERIFY(m_ready);
+        const QByteArrayList before = snapshot();
+        const LogCounter log;
+        QVERIFY(!manager.fromXml(data, /*merge=*/true));
+        QVERIFY(!manager.fromXml(data, /*merge=*/false));
+        QVERIFY(!manager.setFactoryDefaultView(data));
+        QVERIFY(!manager.setProgramStartView(data));
+        QCOMPARE(log.lines(), QStringList());
+        QCOMPARE(record.lines, QStringList());
+        QCOMPARE(snapshot(), before);
+        QVERIFY(!manager.programStartViewSet());
+        QVERIFY(manager.activateFactoryDefaultView());
+        QCOMPARE(manager.views(), names("factory"));
+    }
+
+    SmallWindow window;
+    WindowOwner owner;
+    Manager manager{names("A,B"), /*mergeOnApply=*/false};
+    SignalRecord record{manager};
+
+private:
+    QByteArrayList snapshot()
+    {
+        return {window.saveState(0), manager.activeGroup().toUtf8(), manager.toXml(true)};
+    }
+
+    bool m_ready = false;
+};
+
+} // namespace Panorel::DocumentTests
