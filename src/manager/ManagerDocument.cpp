@@ -5,6 +5,7 @@
 #include "DefaultMessageHandler.h"
 #include "DenyingNetworkAccessManager.h"
 #include "Group.h"
+#include "TypePrefixGuard.h"
 
 #include <panorel/Manager.h>
 
@@ -111,7 +112,7 @@ bool Manager::validateDocument(const QByteArray& data, QAbstractMessageHandler* 
     Detail::DenyingNetworkAccessManager network;
     Detail::DefaultMessageHandler defaultHandler;
     QXmlSchema schema = loadSchema();
-    if (!schema.isValid())
+    if (!schema.isValid() || !Detail::TypePrefixGuard::allDeclared(data))
         return false;
     schema.setMessageHandler(handler ? handler : &defaultHandler);
     schema.setNetworkAccessManager(&network);
