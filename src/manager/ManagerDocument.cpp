@@ -5,6 +5,7 @@
 #include "DefaultMessageHandler.h"
 #include "DenyingNetworkAccessManager.h"
 #include "Group.h"
+#include "SchemaHints.h"
 #include "TypePrefixGuard.h"
 
 #include <panorel/Manager.h>
@@ -117,7 +118,7 @@ bool Manager::validateDocument(const QByteArray& data, QAbstractMessageHandler* 
     schema.setMessageHandler(handler ? handler : &defaultHandler);
     schema.setNetworkAccessManager(&network);
     const QXmlSchemaValidator validator(schema);
-    return validator.validate(data, QUrl());
+    return validator.validate(Detail::SchemaHints::removed(data), QUrl());
 }
 
 QByteArray Manager::toXml(bool markActive)

@@ -44,6 +44,8 @@ private Q_SLOTS:
     void cleanup();
     void hintIsNotFollowed_data();
     void hintIsNotFollowed();
+    void hintHidesNoFault_data();
+    void hintHidesNoFault();
     void foreignRootIsRefusedWithItsSchemaAtHand_data();
     void foreignRootIsRefusedWithItsSchemaAtHand();
     void externalEntity_data();
@@ -113,6 +115,26 @@ void DocumentAccessTest::hintIsNotFollowed()
 {
     QFETCH(QByteArray, hint);
     DocumentJudge().expectAccepted(withHint(document(group("A", view("v"))), hint));
+}
+
+void DocumentAccessTest::hintHidesNoFault_data()
+{
+    QTest::addColumn<QByteArray>("data");
+    const QByteArray good = document(group("A", view("v", state("w", "aa"))));
+    row("text after the root") << good + "text";
+    row("second root") << good + good;
+    row("no end tag") << good.left(good.lastIndexOf('<'));
+    row("odd digits") << QByteArray(good).replace("aa", "a");
+    row("root in a namespace") << QByteArray(good).replace("<ViewData",
+                                                           "<ViewData xmlns=\"urn:x\"");
+    row("further attribute") << QByteArray(good).replace("<Groups>", "<Groups Name=\"A\">");
+    row("text between elements") << QByteArray(good).replace("<Groups>", "text<Groups>");
+}
+
+void DocumentAccessTest::hintHidesNoFault()
+{
+    QFETCH(QByteArray, data);
+    DocumentJudge().expectRefused(withHint(data, "schemaLocation=\"urn:x ftp://127.0.0.1/\""));
 }
 
 void DocumentAccessTest::foreignRootIsRefusedWithItsSchemaAtHand_data()
