@@ -4,9 +4,9 @@
 
 #include "DefaultMessageHandler.h"
 #include "DenyingNetworkAccessManager.h"
+#include "DocumentGuard.h"
 #include "Group.h"
 #include "SchemaHints.h"
-#include "TypePrefixGuard.h"
 
 #include <panorel/Manager.h>
 
@@ -113,7 +113,7 @@ bool Manager::validateDocument(const QByteArray& data, QAbstractMessageHandler* 
     Detail::DenyingNetworkAccessManager network;
     Detail::DefaultMessageHandler defaultHandler;
     QXmlSchema schema = loadSchema();
-    if (!schema.isValid() || !Detail::TypePrefixGuard::allDeclared(data))
+    if (!schema.isValid() || !Detail::DocumentGuard::mayBeValidated(data))
         return false;
     schema.setMessageHandler(handler ? handler : &defaultHandler);
     schema.setNetworkAccessManager(&network);

@@ -15,6 +15,15 @@ QByteArray noted(const QByteArray& text)
     return document(group("A", view("v", userData(text))));
 }
 
+// A thousand pieces with a number in the middle of each.
+QByteArray numbered(const QByteArray& before, const QByteArray& after)
+{
+    QByteArray pieces;
+    for (int i = 0; i < 1000; ++i)
+        pieces += before + QByteArray::number(i) + after;
+    return pieces;
+}
+
 // Entities of which each stands for ten of the one before; the first is @p seed.
 QByteArray entities(int levels, const QByteArray& seed)
 {
@@ -67,6 +76,10 @@ void DocumentLimitsTest::judge_data()
     row("groups 100,000 deep", false,
         document(QByteArray("<Group Name=\"A\">").repeated(100000) +
                  QByteArray("</Group>").repeated(100000)));
+    row("a tag with a thousand attributes", false,
+        document({}).replace("<ViewData", "<ViewData" + numbered(" a", "=\"\"")));
+    row("a tag with a thousand namespace declarations", true,
+        document({}).replace("<ViewData", "<ViewData" + numbered(" xmlns:a", "=\"urn:x\"")));
     row("entities that grow to 400 letters", true,
         entities(1, QByteArray(40, 'l')) + noted("&e1;"));
     row("entities that grow to 3 billion letters", false, entities(9, "lol") + noted("&e9;"));

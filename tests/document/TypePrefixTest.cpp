@@ -58,6 +58,10 @@ void TypePrefixTest::declaredPrefixIsAccepted_data()
     row("after the type, with blanks around it", typed({}, "xsi:type=\" xs:string \"" + xs));
     row("declared again further in and ended",
         typed("xsi:type=\"state\"" + xs, "xsi:type=\"xs:string\"", {}, xsi + xs));
+    row("declared on the root and again on the element",
+        typed({}, "xsi:type=\"xs:string\"" + xs, {}, xsi + xs));
+    row("as many attributes as a tag can have",
+        typed("xsi:type=\"state\" xsi:schemaLocation=\"\" xsi:noNamespaceSchemaLocation=\"\""));
     row("another prefix for the instance namespace",
         typed({}, declared("i", instanceNamespace) + xs + " i:type=\"xs:string\""));
     row("a colon in the value of other attributes",

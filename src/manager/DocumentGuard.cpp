@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "TypePrefixGuard.h"
+#include "DocumentGuard.h"
 
 #include <QHash>
 #include <QStack>
@@ -10,6 +10,9 @@ namespace Panorel::Detail {
 namespace {
 
 const QLatin1String schemaInstance("http://www.w3.org/2001/XMLSchema-instance");
+
+// The schema gives no element more than two attributes, and the schema instance namespace has four.
+constexpr int mostAttributes = 6;
 
 // The namespace prefixes that are in scope, counted, for an inner element may declare one again.
 class PrefixScopes
@@ -45,7 +48,7 @@ bool isTypeDeclared(const QXmlStreamAttributes& attributes, const PrefixScopes& 
 
 } // namespace
 
-bool TypePrefixGuard::allDeclared(const QByteArray& data)
+bool DocumentGuard::mayBeValidated(const QByteArray& data)
 {
     PrefixScopes scopes;
     QXmlStreamReader reader(data);
@@ -53,7 +56,8 @@ bool TypePrefixGuard::allDeclared(const QByteArray& data)
         const QXmlStreamReader::TokenType token = reader.readNext();
         if (token == QXmlStreamReader::StartElement) {
             scopes.enter(reader.namespaceDeclarations());
-            if (!isTypeDeclared(reader.attributes(), scopes))
+            const QXmlStreamAttributes attributes = reader.attributes();
+            if (attributes.size() > mostAttributes || !isTypeDeclared(attributes, scopes))
                 return false;
         } else if (token == QXmlStreamReader::EndElement) {
             scopes.leave();
