@@ -35,7 +35,8 @@ public:
     bool contains(const QString& prefix) const { return m_counts.value(prefix) > 0; }
 
 private:
-    QHash<QString, int> m_counts{{QStringLiteral("xml"), 1}};
+    // Without "xml", which is always declared: no type bears it.
+    QHash<QString, int> m_counts;
     QStack<QXmlStreamNamespaceDeclarations> m_scopes;
 };
 
