@@ -7,6 +7,7 @@
 #include "DocumentGuard.h"
 #include "Group.h"
 #include "SchemaHints.h"
+#include "TagScan.h"
 
 #include <panorel/Manager.h>
 
@@ -113,12 +114,15 @@ bool Manager::validateDocument(const QByteArray& data, QAbstractMessageHandler* 
     Detail::DenyingNetworkAccessManager network;
     Detail::DefaultMessageHandler defaultHandler;
     QXmlSchema schema = loadSchema();
-    if (!schema.isValid() || !Detail::DocumentGuard::mayBeValidated(data))
+    const Detail::TagScan tags(data);
+    if (!schema.isValid() || tags.hasOverfullTag())
+        return false;
+    if (!tags.isPlain() && !Detail::DocumentGuard::mayBeValidated(data))
         return false;
     schema.setMessageHandler(handler ? handler : &defaultHandler);
     schema.setNetworkAccessManager(&network);
     const QXmlSchemaValidator validator(schema);
-    return validator.validate(Detail::SchemaHints::removed(data), QUrl());
+    return validator.validate(tags.isPlain() ? data : Detail::SchemaHints::removed(data), QUrl());
 }
 
 QByteArray Manager::toXml(bool markActive)

@@ -66,6 +66,7 @@ void DocumentLimitsTest::judge_data()
     row("10 MB of NUL", false, QByteArray(tenMegabytes, '\0'));
     row("10 MB of text after the root", false, document({}) + QByteArray(tenMegabytes, 'x'));
     row("10 MB of an unfinished tag", false, '<' + QByteArray(tenMegabytes, 'V'));
+    row("10 MB of attributes", false, "<ViewData" + QByteArray(" a=''").repeated(tenMegabytes / 5));
     row("a comment of 10 MB", true, "<!--" + QByteArray(tenMegabytes, '.') + "-->" + document({}));
     row("a million elements deep", false,
         document(QByteArray("<a>").repeated(depth) + QByteArray("</a>").repeated(depth)));

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#include "TagScan.h"
+
+#include <cstring>
+
+namespace Panorel::Detail {
+
+namespace {
+
+// The schema gives no element more than two attributes, and the schema instance namespace has four.
+constexpr int mostAttributes = 6;
+
+bool isSpace(char character)
+{
+    return character == ' ' || character == '\t' || character == '\n' || character == '\r';
+}
+
+} // namespace
+
+TagScan::TagScan(const QByteArray& data)
+    : m_data(data)
+{
+    const bool isReadable = isUtf8();
+    // The name of a namespace declaration cannot be spelled in another way.
+    m_isPlain = isReadable && !m_data.contains("xmlns");
+    if (isReadable)
+        scan();
+}
+
+// As every reader finds it out: by the first bytes, then by the XML declaration.
+bool TagScan::isUtf8() const
+{
+    const QByteArray start = m_data.startsWith("\xEF\xBB\xBF") ? m_data.mid(3, 5) : m_data.left(5);
+    if (!start.startsWith('<') || start.contains('\0'))
+        return false;
+    if (start != "<?xml")
+        return true;
+    const QByteArray declaration = m_data.left(behind("?>", 0)).toUpper();
+    return !declaration.contains("ENCODING") || declaration.contains("ENCODING=\"UTF-8\"");
+}
+
+void TagScan::scan()
+{
+    int position = m_data.indexOf('<');
+    while (position >= 0 && !m_hasOverfullTag)
+        position = m_data.indexOf('<', endOfMarkup(position));
+}
+
+int TagScan::endOfMarkup(int position)
+{
+    const auto startsWith = [&](const char* text) {
+        return qstrncmp(m_data.constData() + position, text, qstrlen(text)) == 0;
+    };
+    if (startsWith("<!--"))
+        return behind("-->", position + 4);
+    if (startsWith("<![CDATA["))
+        return behind("]]>", position);
+    if (startsWith("<?"))
+        return behind("?>", position);
+    if (startsWith("<!")) {
+        // A document type can give every tag further attributes.
+        m_isPlain = false;
+        return m_data.size();
+    }
+    return endOfTag(position + 1);
+}
+
+int TagScan::endOfTag(int position)
+{
+    int attributes = 0;
+    while (position < m_data.size() && m_data[position] != '>') {
+        const char character = m_data[position];
+        if (character == '=' && !isNamespaceDeclared(position))
+            ++attributes;
+        ++position;
+        if (character == '"' || character == '\'') {
+            const int end = m_data.indexOf(character, position);
+            position = end < 0 ? m_data.size() : end + 1;
+        }
+    }
+    m_hasOverfullTag = attributes > mostAttributes;
+    return position;
+}
+
+// Whether the name before the equals sign is that of a namespace declaration. It stops at what
+// cannot be a part of a name; there is always something, for a tag begins with one of them.
+bool TagScan::isNamespaceDeclared(int equals) const
+{
+    int end = equals;
+    while (isSpace(m_data[end - 1]))
+        --end;
+    int start = end;
+    while (!isSpace(m_data[start - 1]) && std::strchr("<\"'=", m_data[start - 1]) == nullptr)
+        --start;
+    return qstrncmp(m_data.constData() + start, "xmlns", 5) == 0;
+}
+
+int TagScan::behind(const char* end, int position) const
+{
+    const int found = m_data.indexOf(end, position);
+    return found < 0 ? m_data.size() : found + static_cast<int>(qstrlen(end));
+}
+
+} // namespace Panorel::Detail
