@@ -20,10 +20,8 @@ bool isSpace(char character)
 TagScan::TagScan(const QByteArray& data)
     : m_data(data)
 {
-    const bool isReadable = isUtf8();
-    // The name of a namespace declaration cannot be spelled in another way.
-    m_isPlain = isReadable && !m_data.contains("xmlns");
-    if (isReadable)
+    m_isPlain = isUtf8();
+    if (m_isPlain)
         scan();
 }
 
@@ -70,8 +68,12 @@ int TagScan::endOfTag(int position)
     int attributes = 0;
     while (position < m_data.size() && m_data[position] != '>') {
         const char character = m_data[position];
-        if (character == '=' && !isNamespaceDeclared(position))
-            ++attributes;
+        if (character == '=') {
+            if (isNamespaceDeclared(position))
+                m_isPlain = false;
+            else
+                ++attributes;
+        }
         ++position;
         if (character == '"' || character == '\'') {
             const int end = m_data.indexOf(character, position);
