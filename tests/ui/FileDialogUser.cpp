@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <utility>
@@ -26,6 +27,13 @@ FileDialogUser::FileDialogUser(Use use, QMessageBox::StandardButton answer)
 {
     QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { look(); });
     m_timer.start(lookInterval);
+}
+
+void FileDialogUser::prepareProcess()
+{
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    static const QTemporaryDir settings;
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(settings.path()));
 }
 
 void FileDialogUser::look()

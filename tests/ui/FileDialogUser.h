@@ -21,6 +21,10 @@ public:
 
     explicit FileDialogUser(Use use, QMessageBox::StandardButton answer = QMessageBox::NoButton);
 
+    /** To be called before the application object is made: only Qt's own dialogs can be used like
+        this, and they remember folders in settings, which are not to be the user's. */
+    static void prepareProcess();
+
     /** True when there was one dialog, it closed by what was done, and each question was awaited.
      */
     bool wasUsed() const { return m_used && !m_stuck; }

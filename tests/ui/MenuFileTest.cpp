@@ -23,7 +23,7 @@ class MenuFileTest : public QObject
     Q_OBJECT
 
 public:
-    static void initMain();
+    static void initMain() { FileDialogUser::prepareProcess(); }
 
 private Q_SLOTS:
     void init();
@@ -106,14 +106,6 @@ QByteArray documentWith(const char* view)
 }
 
 } // namespace
-
-void MenuFileTest::initMain()
-{
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    // Where file dialogs keep their memory; the user's own is not touched.
-    static const QTemporaryDir settings;
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(settings.path()));
-}
 
 void MenuFileTest::init()
 {
