@@ -17,7 +17,7 @@
 using namespace Panorel;
 using namespace Panorel::UiTests;
 
-/** Export, import, and import with merge, through the file dialogs to the end. */
+/** Export, import, and import with merge, through the file dialogs to the end, without a word. */
 class MenuFileTest : public QObject
 {
     Q_OBJECT
@@ -32,6 +32,7 @@ private Q_SLOTS:
     void dialog();
     void cancelled_data();
     void cancelled();
+    void startsWhereTheLastOneEnded_data();
     void startsWhereTheLastOneEnded();
     void exported();
     void exportedInTheLocalesEncoding_data();
@@ -60,6 +61,7 @@ private:
     std::unique_ptr<Manager> m_manager;
     std::unique_ptr<Menu> m_menu;
     std::unique_ptr<SignalLines> m_signals;
+    QtMessageHandler m_messageHandler = nullptr;
 };
 
 namespace {
@@ -105,6 +107,19 @@ QByteArray documentWith(const char* view)
     return document().replace("Name=\"n\"", QByteArray("Name=\"") + view + "\"");
 }
 
+// What is logged while a test runs, but for what the offscreen platform says of every window.
+QStringList& logged()
+{
+    static QStringList messages;
+    return messages;
+}
+
+void keepMessage(QtMsgType, const QMessageLogContext&, const QString& message)
+{
+    if (!message.startsWith("This plugin does not support "_s))
+        logged().append(message);
+}
+
 } // namespace
 
 void MenuFileTest::init()
@@ -116,14 +131,18 @@ void MenuFileTest::init()
     QVERIFY(m_manager->createView("n"_s));
     m_menu = std::make_unique<Menu>(m_manager.get(), true, nullptr);
     m_signals = std::make_unique<SignalLines>(*m_manager);
+    logged().clear();
+    m_messageHandler = qInstallMessageHandler(keepMessage);
 }
 
 void MenuFileTest::cleanup()
 {
+    qInstallMessageHandler(m_messageHandler);
     m_signals.reset();
     m_menu.reset();
     m_manager.reset();
     m_folder.reset();
+    QCOMPARE(logged(), QStringList());
 }
 
 bool MenuFileTest::use(const char* entryText, const FileDialogUser::Use& use,
@@ -207,15 +226,22 @@ void MenuFileTest::cancelled()
     QCOMPARE(counter.asked, 0);
 }
 
+void MenuFileTest::startsWhereTheLastOneEnded_data()
+{
+    cancelled_data();
+}
+
 void MenuFileTest::startsWhereTheLastOneEnded()
 {
+    QFETCH(QByteArray, entryText);
+
     // That is what Qt makes of a start folder that is left open.
     QVERIFY(use("Export ...", [&](QFileDialog& dialog) {
         dialog.setDirectory(m_folder->path());
         FileDialogUser::choose(dialog, "a.views"_s);
     }));
     QString start;
-    QVERIFY(use("Import ...", [&](QFileDialog& dialog) {
+    QVERIFY(use(entryText.constData(), [&](QFileDialog& dialog) {
         start = dialog.directory().canonicalPath();
         FileDialogUser::cancel(dialog);
     }));
