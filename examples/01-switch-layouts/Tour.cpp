@@ -2,7 +2,6 @@
 #include "Tour.h"
 
 #include "EditorWindow.h"
-#include "LayoutsMenu.h"
 #include "Picture.h"
 
 #include <panorel/IManagable.h>
@@ -18,7 +17,7 @@
 
 namespace {
 
-const QStringList groups{QStringLiteral("Editing"), QStringLiteral("Debugging")};
+const QStringList groups{QStringLiteral("Editing")};
 const QString wide = QStringLiteral("Wide");
 const QString focus = QStringLiteral("Focus");
 
@@ -48,7 +47,7 @@ bool Tour::run()
     return showSwitching() && showMerging();
 }
 
-// Within the 800 x 800 pixels of the offscreen platform: a restored dock widget that would float
+// Within the 800 x 600 pixels of the offscreen platform: a restored dock widget that would float
 // outside of its screen is moved.
 void Tour::placeWindow()
 {
@@ -61,8 +60,7 @@ bool Tour::showSwitching()
 {
     Panorel::Manager manager(groups, /*mergeOnApply=*/false);
     manager.registerManagable(m_owner);
-    LayoutsMenu menu(manager, m_window);
-    return showViews(manager) && showGroups(manager);
+    return showViews(manager);
 }
 
 bool Tour::showViews(Panorel::Manager& manager)
@@ -96,35 +94,9 @@ bool Tour::showViews(Panorel::Manager& manager)
         return false;
 
     manager.activateView(focus);
-    return step(QStringLiteral("focus-again"),
-                QStringLiteral("Switched to \"Focus\": all is back."), focusArrangement);
-}
-
-bool Tour::showGroups(Panorel::Manager& manager)
-{
-    // Saved in no view: it comes back all the same, for each group keeps a layout of its own.
-    m_window.dock(QStringLiteral("Project"))->raise();
-    const Arrangement editing = settled();
-    manager.activateGroup(groups[1]);
-    arrangeForDebugging();
-    manager.saveCurrentViewAs(QStringLiteral("Inspect"));
-    const Arrangement debugging = settled();
-    if (!step(QStringLiteral("debugging"), QStringLiteral("Switched to the group \"Debugging\", "
-                                                          "arranged it and saved \"Inspect\".")))
+    if (!step(QStringLiteral("focus-again"), QStringLiteral("Switched to \"Focus\": all is back."),
+              focusArrangement))
         return false;
-
-    manager.activateGroup(groups[0]);
-    if (!step(QStringLiteral("editing-again"),
-              QStringLiteral("Switched to the group \"Editing\": it is as it was left."), editing))
-        return false;
-
-    manager.activateGroup(groups[1]);
-    if (!step(QStringLiteral("debugging-again"),
-              QStringLiteral("Switched to the group \"Debugging\": it is as it was left."),
-              debugging))
-        return false;
-
-    manager.activateGroup(groups[0]);
     manager.activateView(wide);
     return true;
 }
@@ -133,7 +105,6 @@ bool Tour::showMerging()
 {
     Panorel::Manager manager(groups, /*mergeOnApply=*/true);
     manager.registerManagable(m_owner);
-    LayoutsMenu menu(manager, m_window);
     manager.saveCurrentViewAs(wide);
     const Arrangement saved = settled();
 
@@ -161,18 +132,6 @@ void Tour::disturbDocks()
     m_window.dock(QStringLiteral("Search"))->close();
     m_window.dock(QStringLiteral("Console"))->close();
     m_window.dock(QStringLiteral("Properties"))->close();
-}
-
-void Tour::arrangeForDebugging()
-{
-    QDockWidget* variables = m_window.dock(QStringLiteral("Variables"));
-    m_window.addDockWidget(Qt::RightDockWidgetArea, variables);
-    variables->show();
-    m_window.dock(QStringLiteral("Console"))->show();
-    m_window.dock(QStringLiteral("Outline"))->close();
-    QToolBar* debug = m_window.toolBar(QStringLiteral("Debug"));
-    m_window.addToolBar(Qt::LeftToolBarArea, debug);
-    debug->show();
 }
 
 bool Tour::step(const QString& picture, const QString& text)

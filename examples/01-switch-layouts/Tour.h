@@ -28,11 +28,9 @@ public:
 private:
     void placeWindow();
     void disturbDocks();
-    void arrangeForDebugging();
 
     bool showSwitching();
     bool showViews(Panorel::Manager& manager);
-    bool showGroups(Panorel::Manager& manager);
     bool showMerging();
     bool step(const QString& picture, const QString& text);
     bool step(const QString& picture, const QString& text, const Arrangement& expected);

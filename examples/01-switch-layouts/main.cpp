@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "EditorWindow.h"
-#include "LayoutsMenu.h"
+#include "LayoutStore.h"
 #include "Tour.h"
 
 #include <panorel/IManagable.h>
 #include <panorel/Manager.h>
+#include <panorel/Menu.h>
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QMenuBar>
+#include <QMessageBox>
 
 namespace {
 
@@ -29,6 +32,12 @@ private:
     EditorWindow& m_window;
 };
 
+void show(const QString& problem)
+{
+    if (!problem.isEmpty())
+        QMessageBox::warning(nullptr, QStringLiteral("Layouts"), problem);
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -38,6 +47,8 @@ int main(int argc, char* argv[])
     options.addHelpOption();
     options.addOptions({{QStringLiteral("merge"),
                          QStringLiteral("Leave the tool bars as they are on a switch of layouts.")},
+                        {QStringLiteral("layouts"), QStringLiteral("Keep the layouts in <file>."),
+                         QStringLiteral("file"), LayoutStore::defaultFileName()},
                         {QStringLiteral("tour"),
                          QStringLiteral("Show all this, with and without "
                                         "merging, as pictures in <dir>."),
@@ -49,12 +60,19 @@ int main(int argc, char* argv[])
     if (options.isSet(QStringLiteral("tour")))
         return Tour(window, managed, options.value(QStringLiteral("tour"))).run() ? 0 : 1;
 
-    Panorel::Manager manager({QStringLiteral("Editing"), QStringLiteral("Debugging")},
+    Panorel::Manager manager({QStringLiteral("Editing")},
                              /*mergeOnApply=*/options.isSet(QStringLiteral("merge")));
     manager.registerManagable(managed);
-    LayoutsMenu menu(manager, window);
+    Panorel::Menu menu(&manager, /*extended=*/true);
+    menu.setTitle(QStringLiteral("&Layouts"));
+    window.menuBar()->addMenu(&menu);
 
     window.start();
-    manager.saveCurrentViewAs(QStringLiteral("Standard"));
-    return QApplication::exec();
+    LayoutStore store(options.value(QStringLiteral("layouts")));
+    show(store.load(manager));
+    if (manager.views().isEmpty())
+        manager.saveCurrentViewAs(QStringLiteral("Standard"));
+    const int result = QApplication::exec();
+    show(store.save(manager));
+    return result;
 }

@@ -22,7 +22,7 @@ EditorWindow::EditorWindow(QWidget* parent)
     addDocks();
     addToolBars();
     addMenus();
-    statusBar()->addWidget(new QLabel(tr("Line 1, column 1")));
+    statusBar()->addPermanentWidget(new QLabel(tr("Line 1, column 1")));
     resize(1000, 680);
 }
 

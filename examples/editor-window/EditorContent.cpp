@@ -56,11 +56,13 @@ public:
 protected:
     void highlightBlock(const QString& text) override
     {
+        const bool dark = QApplication::palette().color(QPalette::Base).lightness() < 128;
+        const auto color = [dark](QRgb onLight, QRgb onDark) { return dark ? onDark : onLight; };
         paint(text, QStringLiteral("\\b(bool|const|double|for|if|namespace|return)\\b"),
-              QColor(0x1f, 0x4e, 0x9e));
-        paint(text, QStringLiteral("\"[^\"]*\""), QColor(0x2e, 0x7d, 0x32));
-        paint(text, QStringLiteral("^#\\w+"), QColor(0x8e, 0x44, 0xad));
-        paint(text, QStringLiteral("//.*$"), QColor(0x75, 0x75, 0x75));
+              color(0x1f4e9e, 0x8ab4f8));
+        paint(text, QStringLiteral("\"[^\"]*\""), color(0x2e7d32, 0x9ccc65));
+        paint(text, QStringLiteral("^#\\w+"), color(0x8e44ad, 0xd7a6e8));
+        paint(text, QStringLiteral("//.*$"), color(0x6a6a6a, 0xa0a0a0));
     }
 
 private:

@@ -9,3 +9,6 @@ class QMainWindow;
  * painted here, for the offscreen platform has no window manager that draws them.
  */
 QImage pictureOf(const QMainWindow& window);
+
+/** The same of all windows, dialogs and menus that are open now. */
+QImage pictureOfAll();

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <panorel/Menu.h>
+
+#include <QAction>
+#include <QList>
+
+/** The entries of a menu, found by their places, for their texts are translated. */
+class MenuParts
+{
+public:
+    explicit MenuParts(const Panorel::Menu& menu)
+    {
+        const QList<QAction*> actions = menu.actions();
+        for (QAction* action : actions) {
+            if (action->menu())
+                m_subMenus.append(action->menu());
+            else if (!action->isSeparator() && !action->isCheckable())
+                m_commands.append(action);
+        }
+    }
+
+    QMenu* saveAs() const { return m_subMenus.value(0); }
+    QMenu* deletion() const { return m_subMenus.value(1); }
+    /** Null in a menu that is not extended, as all below. */
+    QAction* import() const { return m_commands.value(1); }
+    QAction* importAndMerge() const { return m_commands.value(2); }
+    QAction* programStart() const { return m_commands.value(3); }
+    QAction* factoryDefault() const { return m_commands.value(4); }
+
+private:
+    QList<QMenu*> m_subMenus;
+    QList<QAction*> m_commands;
+};
