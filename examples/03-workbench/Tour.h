@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Arrangement.h"
+#include "Workbench.h"
+
+#include <QDir>
+
+/**
+ * Uses the workbench by keyboard and mouse as a person does, tells each step, checks what came of
+ * it and writes a picture of all that is open.
+ */
+class Tour
+{
+public:
+    Tour(Workbench& workbench, const QDir& pictures);
+
+    /** False as soon as something is not as it should be. */
+    bool run();
+
+private:
+    struct Shown
+    {
+        Arrangement editor;
+        Arrangement plot;
+    };
+
+    bool saveFromMenu();
+    bool refuseEmptyName();
+    bool switchByMouse();
+    bool cycle();
+    bool deleteAndUndo();
+    bool askForName();
+    bool openByKeys();
+    bool switchGroups();
+    bool importBadFiles();
+    bool importGoodFile();
+    bool resetAll();
+    bool showManyLayouts();
+
+    void place();
+    void disturb();
+    bool openMenu();
+    bool openSubMenu(int index);
+    bool import(const QString& fileName, const QString& picture);
+    QMenu& subMenu(int index);
+    Shown shown() const;
+
+    void picture(const QString& name);
+    bool step(const QString& name, const QString& text, bool isSo);
+    bool step(const QString& name, const QString& text, const Shown& expected);
+    bool told(const QString& message) const;
+
+    Workbench& m_workbench;
+    QDir m_pictures;
+    int m_steps = 0;
+};

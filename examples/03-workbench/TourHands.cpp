@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "TourHands.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTimer>
+
+namespace TourHands {
+
+namespace {
+
+QWidget* home = nullptr;
+
+// A dialog that has just come up, or the main window where no window manager chose one.
+void waitForActiveWindow()
+{
+    QWidget* wanted = QApplication::activeModalWidget();
+    if (!wanted && !QApplication::activeWindow())
+        wanted = home;
+    if (!wanted || wanted == QApplication::activeWindow())
+        return;
+    wanted->activateWindow();
+    if (!QTest::qWaitForWindowActive(wanted) || !QApplication::activeWindow())
+        QApplication::setActiveWindow(wanted);
+}
+
+// As Qt does it: an open menu has all keys, and within it the widget with its focus.
+QWidget* receiver()
+{
+    if (QWidget* popup = QApplication::activePopupWidget())
+        return popup->focusWidget() ? popup->focusWidget() : popup;
+    waitForActiveWindow();
+    if (QWidget* focus = QApplication::focusWidget())
+        return focus;
+    return QApplication::activeWindow();
+}
+
+} // namespace
+
+void startFrom(QWidget& window)
+{
+    home = &window;
+    waitForActiveWindow();
+    settle();
+}
+
+void settle()
+{
+    QApplication::sync();
+    for (int round = 0; round < 3; ++round)
+        QApplication::processEvents();
+}
+
+void press(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    if (QWidget* widget = receiver())
+        QTest::keyClick(widget, key, modifiers);
+    settle();
+}
+
+void type(const QString& text)
+{
+    if (QWidget* widget = receiver())
+        QTest::keyClicks(widget, text);
+    settle();
+}
+
+bool goTo(const QMenu& menu, const QString& text)
+{
+    for (int i = 0; i <= menu.actions().size(); ++i) {
+        const QAction* active = menu.activeAction();
+        if (active && active->text() == text)
+            return true;
+        press(Qt::Key_Down);
+    }
+    return false;
+}
+
+void click(QWidget& widget, const QPoint& position)
+{
+    QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, position);
+    settle();
+}
+
+void chooseFile(const QString& fileName, const std::function<void()>& open,
+                const std::function<void()>& look)
+{
+    // The dialog has an event loop of its own, which open() does not leave before it is closed.
+    QTimer::singleShot(0, [fileName, look] {
+        settle();
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (!dialog)
+            return;
+        auto* edit = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        edit->setText(fileName);
+        settle();
+        look();
+        QTest::keyClick(edit, fileName.isEmpty() ? Qt::Key_Escape : Qt::Key_Return);
+    });
+    open();
+    settle();
+}
+
+} // namespace TourHands

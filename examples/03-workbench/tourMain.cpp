@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "Tour.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QPalette>
+#include <QTemporaryDir>
+#include <QTextStream>
+
+namespace {
+
+QPalette darkPalette()
+{
+    QPalette palette(QColor(0x35, 0x38, 0x3c), QColor(0x2b, 0x2d, 0x30));
+    palette.setColor(QPalette::Highlight, QColor(0x2f, 0x6f, 0xb5));
+    palette.setColor(QPalette::Base, QColor(0x1e, 0x1f, 0x22));
+    return palette;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    // The same look everywhere, so that pictures can be compared.
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
+    QApplication app(argc, argv);
+    QApplication::setFont(QFont(QStringLiteral("sans-serif"), 9));
+
+    QCommandLineParser options;
+    options.addHelpOption();
+    options.addOption({QStringLiteral("dark"), QStringLiteral("Use a dark palette.")});
+    options.addPositionalArgument(QStringLiteral("dir"), QStringLiteral("Where the pictures go."));
+    options.process(app);
+    if (options.isSet(QStringLiteral("dark")))
+        QApplication::setPalette(darkPalette());
+
+    const QDir pictures(options.positionalArguments().value(0, QStringLiteral("tour")));
+    const QTemporaryDir layouts;
+    if (!pictures.mkpath(QStringLiteral(".")) || !layouts.isValid()) {
+        QTextStream(stderr) << "workbench-tour: cannot create " << pictures.path() << '\n';
+        return 1;
+    }
+    Workbench workbench(layouts.filePath(QStringLiteral("layouts.views")), /*mergeOnApply=*/false);
+    workbench.start();
+    return Tour(workbench, pictures).run() ? 0 : 1;
+}
