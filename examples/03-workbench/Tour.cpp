@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QScreen>
+#include <QStyle>
 #include <QTextStream>
 #include <QToolBar>
 #include <QToolButton>
@@ -87,7 +88,8 @@ bool Tour::switchByMouse()
     Panorel::Menu& menu = m_workbench.menu();
     for (QAction* action : menu.actions()) {
         if (action->text() == QLatin1String("Wide")) {
-            click(menu, menu.actionGeometry(action).center());
+            click(menu, QStyle::visualPos(QApplication::layoutDirection(), menu.rect(),
+                                          menu.actionGeometry(action).center()));
             break;
         }
     }
@@ -198,15 +200,14 @@ bool Tour::importBadFiles()
     if (!import(damaged, QStringLiteral("import-dialog")) ||
         !step(QStringLiteral("import-damaged"), QStringLiteral("A damaged file is told."),
               m_workbench.manager().views() == before &&
-                  told(QStringLiteral("\"damaged.views\" holds no layouts or is damaged. Nothing "
-                                      "was changed."))))
+                  told(QStringLiteral("\"damaged.views\" cannot be read; nothing was changed."))))
         return false;
     return import(future, QString()) &&
            step(QStringLiteral("import-future"),
                 QStringLiteral("One of another version is told too, and nothing is lost."),
                 m_workbench.manager().views() == before &&
-                    told(QStringLiteral("\"future.views\" is of another version and was not read. "
-                                        "Nothing was changed.")));
+                    told(QStringLiteral(
+                        "\"future.views\" is of another version; nothing was changed.")));
 }
 
 bool Tour::importGoodFile()
@@ -265,7 +266,7 @@ void Tour::place()
     m_workbench.manager().activateView(QStringLiteral("Standard"));
     settle();
     // Away from what is shown.
-    m_workbench.editor().dock(QStringLiteral("Properties"))->setGeometry(390, 230, 170, 100);
+    m_workbench.editor().dock(QStringLiteral("Properties"))->setGeometry(380, 215, 190, 125);
     m_workbench.editor().centralWidget()->setFocus();
     startFrom(m_workbench.editor());
 }

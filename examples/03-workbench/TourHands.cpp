@@ -6,6 +6,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMenu>
+#include <QStyle>
 #include <QTimer>
 
 namespace TourHands {
@@ -23,7 +24,11 @@ void waitForActiveWindow()
     if (!wanted || wanted == QApplication::activeWindow())
         return;
     wanted->activateWindow();
-    if (!QTest::qWaitForWindowActive(wanted) || !QApplication::activeWindow())
+    const auto isReady = [wanted] {
+        const QWidget* focus = QApplication::focusWidget();
+        return QApplication::activeWindow() == wanted && focus && focus->window() == wanted;
+    };
+    if (!QTest::qWaitFor(isReady, 2000))
         QApplication::setActiveWindow(wanted);
 }
 
@@ -43,7 +48,6 @@ QWidget* receiver()
 void startFrom(QWidget& window)
 {
     home = &window;
-    waitForActiveWindow();
     settle();
 }
 
@@ -52,6 +56,12 @@ void settle()
     QApplication::sync();
     for (int round = 0; round < 3; ++round)
         QApplication::processEvents();
+    // A window manager answers when it likes, and an answer that comes late closes a menu.
+    if (QGuiApplication::platformName() != QLatin1String("offscreen"))
+        QTest::qWait(80);
+    // Here and not only before a key, for a timer that is to act after that key would act now.
+    if (!QApplication::activePopupWidget())
+        waitForActiveWindow();
 }
 
 void press(Qt::Key key, Qt::KeyboardModifiers modifiers)
@@ -81,7 +91,9 @@ bool goTo(const QMenu& menu, const QString& text)
 
 void click(QWidget& widget, const QPoint& position)
 {
-    QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, position);
+    const QPoint mirrored =
+        QStyle::visualPos(QApplication::layoutDirection(), widget.rect(), position);
+    QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, mirrored);
     settle();
 }
 
@@ -90,9 +102,12 @@ void chooseFile(const QString& fileName, const std::function<void()>& open,
 {
     // The dialog has an event loop of its own, which open() does not leave before it is closed.
     QTimer::singleShot(0, [fileName, look] {
-        settle();
-        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        if (!dialog)
+        QFileDialog* dialog = nullptr;
+        const auto isOpen = [&dialog] {
+            dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            return dialog != nullptr;
+        };
+        if (!QTest::qWaitFor(isOpen))
             return;
         auto* edit = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
         edit->setText(fileName);

@@ -24,6 +24,7 @@ void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 void type(const QString& text);
 /** Goes down from entry to entry of an open menu until one with this text is the active one. */
 bool goTo(const QMenu& menu, const QString& text);
+/** @param position as it is where one reads from left to right. */
 void click(QWidget& widget, const QPoint& position);
 
 /**

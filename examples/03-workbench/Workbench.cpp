@@ -123,9 +123,8 @@ void Workbench::followManager()
     connect(&m_manager, &Manager::groupActivated, this, [this](const QString& name) {
         if (!m_isStarted)
             return;
-        QTimer::singleShot(0, this, [this, name] {
-            tell(tr("Switched to the group \"%1\", as it was left.").arg(name));
-        });
+        QTimer::singleShot(0, this,
+                           [this, name] { tell(tr("Group \"%1\", as you left it.").arg(name)); });
     });
     // Once for all that one change emits.
     m_saveSoon.setSingleShot(true);
@@ -167,7 +166,10 @@ void Workbench::arrangeForDebugging()
     m_editor.dock(QStringLiteral("Outline"))->hide();
     m_editor.dock(QStringLiteral("Search"))->hide();
     m_editor.dock(QStringLiteral("Properties"))->hide();
-    m_editor.dock(QStringLiteral("Variables"))->show();
+    QDockWidget* variables = m_editor.dock(QStringLiteral("Variables"));
+    variables->show();
+    m_editor.resizeDocks({m_editor.dock(QStringLiteral("Console")), variables}, {300, 200},
+                         Qt::Horizontal);
     m_editor.addToolBar(Qt::LeftToolBarArea, m_editor.toolBar(QStringLiteral("Debug")));
 }
 
@@ -175,6 +177,7 @@ void Workbench::arrangeForReview()
 {
     for (const char* name : {"Project", "Console", "Variables"})
         m_editor.dock(QLatin1String(name))->hide();
+    m_editor.toolBar(QStringLiteral("Debug"))->hide();
     QDockWidget* outline = m_editor.dock(QStringLiteral("Outline"));
     QDockWidget* search = m_editor.dock(QStringLiteral("Search"));
     m_editor.addDockWidget(Qt::LeftDockWidgetArea, outline);

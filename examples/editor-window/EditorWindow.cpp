@@ -4,7 +4,6 @@
 #include "EditorContent.h"
 
 #include <QDockWidget>
-#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
@@ -22,7 +21,7 @@ EditorWindow::EditorWindow(QWidget* parent)
     addDocks();
     addToolBars();
     addMenus();
-    statusBar()->addPermanentWidget(new QLabel(tr("Line 1, column 1")));
+    statusBar();
     resize(1000, 680);
 }
 

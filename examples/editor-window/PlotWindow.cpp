@@ -96,7 +96,7 @@ PlotWindow::PlotWindow(QWidget* parent)
 void PlotWindow::start()
 {
     show();
-    resizeDocks({dock(QStringLiteral("Stations")), dock(QStringLiteral("Readings"))}, {95, 125},
+    resizeDocks({dock(QStringLiteral("Stations")), dock(QStringLiteral("Readings"))}, {95, 145},
                 Qt::Horizontal);
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ImportWatch.h"
 
-#include "LayoutUndo.h"
 #include "MenuParts.h"
 
 #include <panorel/Manager.h>
@@ -48,42 +47,37 @@ bool ImportWatch::eventFilter(QObject* watched, QEvent* event)
 void ImportWatch::begin()
 {
     m_fileName.clear();
-    m_undo.remember(tr("Import"), LayoutUndo::Windows::GoBack);
+    m_before = m_undo.take(tr("Import"), LayoutUndo::Windows::GoBack);
 }
 
 void ImportWatch::end()
 {
-    if (m_fileName.isEmpty()) {
-        m_undo.forgetLast();
+    if (m_fileName.isEmpty())
         return;
-    }
     const QString name = QFileInfo(m_fileName).fileName();
     QFile file(m_fileName);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        m_undo.forgetLast();
-        m_tell(
-            tr("\"%1\" cannot be opened: %2. Nothing was changed.").arg(name, file.errorString()));
-        return;
-    }
-    explain(name, LayoutDocument::problemWith(file.readAll()));
+    if (file.open(QIODevice::ReadOnly | QIODevice::Text))
+        explain(name, LayoutDocument::problemWith(file.readAll()));
+    else
+        m_tell(tr("\"%1\" cannot be opened; nothing was changed.").arg(name));
 }
 
 void ImportWatch::explain(const QString& name, LayoutDocument::Problem problem)
 {
     switch (problem) {
     case LayoutDocument::Problem::NotLayouts:
-        m_undo.forgetLast();
-        m_tell(tr("\"%1\" holds no layouts or is damaged. Nothing was changed.").arg(name));
+        m_tell(tr("\"%1\" cannot be read; nothing was changed.").arg(name));
         return;
     case LayoutDocument::Problem::OtherVersion:
-        m_undo.undo();
-        m_tell(tr("\"%1\" is of another version and was not read. Nothing was changed.").arg(name));
+        m_undo.goBack(m_before);
+        m_tell(tr("\"%1\" is of another version; nothing was changed.").arg(name));
         return;
     case LayoutDocument::Problem::None:
         break;
     }
+    m_undo.add(m_before);
     if (LayoutDocument::hasViews(m_manager.toXml(/*markActive=*/false)))
         m_tell(tr("Imported the layouts of \"%1\".").arg(name));
     else
-        m_tell(tr("\"%1\" holds no layouts for this program: there are none now.").arg(name));
+        m_tell(tr("\"%1\" has no layouts for this program: none are left.").arg(name));
 }

@@ -3,6 +3,7 @@
 
 #include "LayoutCures.h"
 #include "LayoutDocument.h"
+#include "LayoutUndo.h"
 
 #include <QObject>
 #include <QString>
@@ -28,4 +29,5 @@ private:
     LayoutUndo& m_undo;
     LayoutCures::Tell m_tell;
     QString m_fileName;
+    LayoutUndo::Step m_before;
 };

@@ -18,17 +18,19 @@ LayoutUndo::LayoutUndo(Panorel::Manager& manager, QObject* parent)
 
 void LayoutUndo::remember(const QString& change, Windows windows)
 {
-    if (m_steps.size() == maximumSteps)
-        m_steps.removeFirst();
-    m_steps.append(
-        {change, m_manager.toXml(/*markActive=*/true), m_manager.activeGroup(), windows});
-    Q_EMIT lastChangeChanged();
+    add(take(change, windows));
 }
 
-void LayoutUndo::forgetLast()
+LayoutUndo::Step LayoutUndo::take(const QString& change, Windows windows)
 {
-    if (!m_steps.isEmpty())
-        m_steps.removeLast();
+    return {change, m_manager.toXml(/*markActive=*/true), m_manager.activeGroup(), windows};
+}
+
+void LayoutUndo::add(const Step& step)
+{
+    if (m_steps.size() == maximumSteps)
+        m_steps.removeFirst();
+    m_steps.append(step);
     Q_EMIT lastChangeChanged();
 }
 
@@ -46,7 +48,12 @@ void LayoutUndo::undo()
 {
     if (m_steps.isEmpty())
         return;
-    const Step step = m_steps.takeLast();
+    goBack(m_steps.takeLast());
+    Q_EMIT lastChangeChanged();
+}
+
+void LayoutUndo::goBack(const Step& step)
+{
     // A document does not tell the active group. Where a change was made is where it is seen.
     if (m_manager.activeGroup() != step.group)
         (void)m_manager.activateGroup(step.group);
@@ -54,5 +61,4 @@ void LayoutUndo::undo()
     if (step.windows == Windows::Stay)
         document = LayoutDocument::withViewsOf(m_manager.toXml(/*markActive=*/true), step.before);
     (void)m_manager.fromXml(document, /*merge=*/false); // Its own document, so it is valid.
-    Q_EMIT lastChangeChanged();
 }

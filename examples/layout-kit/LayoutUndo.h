@@ -29,23 +29,7 @@ public:
     /** @param manager must outlive this object. */
     explicit LayoutUndo(Panorel::Manager& manager, QObject* parent = nullptr);
 
-    /** To be called before a change. @param change what it is, such as: Delete "Wide" */
-    void remember(const QString& change, Windows windows);
-    /** To be called after remember() when nothing has come of the change. */
-    void forgetLast();
-
-    bool canUndo() const;
-    /** The change that undo() goes back on; empty if there is none. */
-    QString lastChange() const;
-
-    /** Makes the saved layouts of all groups what they were before the last change. */
-    void undo();
-
-Q_SIGNALS:
-    /** There is another last change, or none any more. */
-    void lastChangeChanged();
-
-private:
+    /** What it takes to go back on one change. */
     struct Step
     {
         QString change;
@@ -54,6 +38,27 @@ private:
         Windows windows;
     };
 
+    /** To be called before a change. @param change what it is, such as: Delete "Wide" */
+    void remember(const QString& change, Windows windows);
+
+    /** The two halves of remember(), for a change of which nothing may come. */
+    Step take(const QString& change, Windows windows);
+    void add(const Step& step);
+
+    bool canUndo() const;
+    /** The change that undo() goes back on; empty if there is none. */
+    QString lastChange() const;
+
+    /** Makes the saved layouts of all groups what they were before the last change. */
+    void undo();
+    /** The same for a step that was not added. */
+    void goBack(const Step& step);
+
+Q_SIGNALS:
+    /** There is another last change, or none any more. */
+    void lastChangeChanged();
+
+private:
     Panorel::Manager& m_manager;
     QVector<Step> m_steps;
 };
