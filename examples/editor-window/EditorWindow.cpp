@@ -6,10 +6,26 @@
 #include <QDockWidget>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPainter>
 #include <QPlainTextEdit>
 #include <QStatusBar>
 #include <QStyle>
 #include <QToolBar>
+
+namespace {
+
+// The style has these icons in black only, which cannot be seen on a dark tool bar.
+QIcon tinted(const QIcon& icon, const QColor& color)
+{
+    QPixmap pixmap = icon.pixmap(32);
+    QPainter painter(&pixmap);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(pixmap.rect(), color);
+    painter.end();
+    return QIcon(pixmap);
+}
+
+} // namespace
 
 EditorWindow::EditorWindow(QWidget* parent)
     : QMainWindow(parent)
@@ -94,10 +110,13 @@ void EditorWindow::addToolBars()
     addToolBarBreak();
     QToolBar* debug = addBar(QStringLiteral("Debug"));
     debug->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    addCommand(debug, tr("Run"), QStyle::SP_MediaPlay);
-    addCommand(debug, tr("Pause"), QStyle::SP_MediaPause);
-    addCommand(debug, tr("Step"), QStyle::SP_MediaSkipForward);
-    addCommand(debug, tr("Stop"), QStyle::SP_MediaStop);
+    const QColor color = palette().color(QPalette::ButtonText);
+    const QList<QAction*> commands{addCommand(debug, tr("Run"), QStyle::SP_MediaPlay),
+                                   addCommand(debug, tr("Pause"), QStyle::SP_MediaPause),
+                                   addCommand(debug, tr("Step"), QStyle::SP_MediaSkipForward),
+                                   addCommand(debug, tr("Stop"), QStyle::SP_MediaStop)};
+    for (QAction* command : commands)
+        command->setIcon(tinted(command->icon(), color));
 }
 
 void EditorWindow::addDocks()

@@ -68,6 +68,7 @@ QTreeWidget* createReadings()
     auto* table = new QTreeWidget;
     table->setHeaderLabels({QStringLiteral("Time"), QStringLiteral("Level")});
     table->setRootIsDecorated(false);
+    table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     table->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     const QList<QStringList> rows{{QStringLiteral("06:00"), QStringLiteral("1.38 m")},
                                   {QStringLiteral("06:10"), QStringLiteral("1.44 m")},

@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "CuresFixture.h"
+
+#include "LayoutStore.h"
+
+#include <QTemporaryDir>
+
+/** Layouts are there in the next run, and no file is lost, whatever is in it. */
+class LayoutStoreTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    static void write(const QString& name, const QByteArray& bytes)
+    {
+        QFile file(name);
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("cannot write %s", qPrintable(name));
+    }
+
+    static QByteArray read(const QString& name)
+    {
+        QFile file(name);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+private Q_SLOTS:
+    void nextRunHasTheLayouts()
+    {
+        const QTemporaryDir folder;
+        const QString name = folder.filePath(QStringLiteral("new/folder/layouts.views"));
+        {
+            CuresFixture f;
+            LayoutStore store(name);
+            QCOMPARE(store.load(f.manager), QString());
+            f.save(QStringLiteral("Wide"));
+            f.dock.close();
+            QCOMPARE(store.save(f.manager), QString());
+        }
+        CuresFixture f;
+        LayoutStore store(name);
+        QCOMPARE(store.load(f.manager), QString());
+        QCOMPARE(f.manager.views(), QStringList{QStringLiteral("Wide")});
+        QCOMPARE(f.manager.activeView(), QStringLiteral("Wide"));
+        QVERIFY(f.dock.isHidden());
+    }
+
+    void unreadableFileIsKept_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("empty") << QByteArray() << QStringLiteral("It is damaged.");
+        QTest::newRow("cut off") << QByteArray(
+                                        "<?xml version=\"1.0\"?><ViewData Version=\"1.1.0\"><Gro")
+                                 << QStringLiteral("It is damaged.");
+        QTest::newRow("another version")
+            << QByteArray("<?xml version=\"1.0\"?><ViewData Version=\"2\"><Groups/></ViewData>")
+            << QStringLiteral("It was written by another version of this program.");
+    }
+
+    void unreadableFileIsKept()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, reason);
+        const QTemporaryDir folder;
+        const QString name = folder.filePath(QStringLiteral("layouts.views"));
+        write(name + QStringLiteral(".unreadable-1"), "an earlier one");
+        write(name, bytes);
+        CuresFixture f;
+        f.save(QStringLiteral("Mine"));
+        LayoutStore store(name);
+        const QString message = store.load(f.manager);
+        QVERIFY2(message.contains(reason), qPrintable(message));
+        QVERIFY2(message.contains(QStringLiteral("layouts.views.unreadable-2")),
+                 qPrintable(message));
+        QCOMPARE(f.manager.views(), QStringList{QStringLiteral("Mine")});
+
+        QCOMPARE(store.save(f.manager), QString());
+        QCOMPARE(read(name + QStringLiteral(".unreadable-1")), QByteArray("an earlier one"));
+        QCOMPARE(read(name + QStringLiteral(".unreadable-2")), bytes);
+        QVERIFY(read(name).contains("Mine"));
+    }
+
+    // Its folder cannot be made, for a file has that name.
+    void failureToSaveIsTold()
+    {
+        const QTemporaryDir folder;
+        const QString file = folder.filePath(QStringLiteral("file"));
+        write(file, "x");
+        CuresFixture f;
+        LayoutStore store(file + QStringLiteral("/layouts.views"));
+        QCOMPARE(store.load(f.manager), QString());
+        const QString message = store.save(f.manager);
+        QVERIFY2(message.contains(QStringLiteral("could not be saved")), qPrintable(message));
+        QCOMPARE(read(file), QByteArray("x"));
+    }
+};
+
+QTEST_MAIN(LayoutStoreTest)
+#include "LayoutStoreTest.moc"
