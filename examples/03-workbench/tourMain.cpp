@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDockWidget>
 #include <QPalette>
 #include <QTemporaryDir>
 #include <QTextStream>
@@ -18,6 +19,32 @@ QPalette darkPalette()
     palette.setColor(QPalette::Highlight, QColor(0x2f, 0x6f, 0xb5));
     palette.setColor(QPalette::Base, QColor(0x1e, 0x1f, 0x22));
     return palette;
+}
+
+bool tour(const QString& file, const QDir& pictures)
+{
+    Workbench workbench(file, /*mergeOnApply=*/false);
+    workbench.start();
+    const bool isSo = Tour(workbench, pictures).run();
+    workbench.manager().activateGroup(QStringLiteral("Debugging"));
+    workbench.editor().dock(QStringLiteral("Console"))->close();
+    workbench.editor().close();
+    return isSo;
+}
+
+// The next run of the program.
+bool comesBack(const QString& file)
+{
+    Workbench workbench(file, /*mergeOnApply=*/false);
+    workbench.start();
+    const bool group = workbench.manager().activeGroup() == QLatin1String("Debugging");
+    const bool windows = workbench.editor().dock(QStringLiteral("Console"))->isHidden();
+    workbench.manager().activateGroup(QStringLiteral("Editing"));
+    const bool views = workbench.manager().views().contains(QStringLiteral("Wide"));
+    QTextStream(stdout) << (group && windows && views
+                                ? "The next run has the layouts, the group and the windows.\n"
+                                : "FAILED: the next run is not as this one was left\n");
+    return group && windows && views;
 }
 
 } // namespace
@@ -50,7 +77,6 @@ int main(int argc, char* argv[])
         QTextStream(stderr) << "workbench-tour: it does not end\n";
         std::exit(1);
     });
-    Workbench workbench(layouts.filePath(QStringLiteral("layouts.views")), /*mergeOnApply=*/false);
-    workbench.start();
-    return Tour(workbench, pictures).run() ? 0 : 1;
+    const QString file = layouts.filePath(QStringLiteral("layouts.views"));
+    return tour(file, pictures) && comesBack(file) ? 0 : 1;
 }
