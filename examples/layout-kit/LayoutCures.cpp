@@ -160,8 +160,6 @@ void focusNameField(Menu& menu)
         field.edit->setPlaceholderText(placeholder);
         field.edit->setAccessibleName(Text::tr("Name of the new layout"));
         field.edit->setMinimumWidth(field.edit->fontMetrics().horizontalAdvance(placeholder) + 24);
-        // A change of the action makes the menu ask the field for its width again.
-        field.action->setText(field.edit->accessibleName());
         // Once the menu is open, for it gives the focus to itself then.
         QTimer::singleShot(0, field.edit, [saveAs, field] {
             saveAs->setActiveAction(field.action);

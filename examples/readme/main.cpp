@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include <panorel/IManagable.h>
 #include <panorel/Manager.h>
+#include <panorel/Menu.h>
 
 #include <QApplication>
 #include <QDockWidget>
+#include <QFile>
 #include <QMainWindow>
+#include <QMenuBar>
+#include <QSaveFile>
 
 // An object that owns main windows tells the Manager which of them to manage.
 class MyWindow : public QMainWindow, public Panorel::IManagable
@@ -25,13 +29,21 @@ public:
 int main(int argc, char* argv[])
 {
     QApplication app(argc, argv);
-    MyWindow window;
     Panorel::Manager manager({QStringLiteral("Editing")}, /*mergeOnApply=*/false);
+    MyWindow window;
     manager.registerManagable(window);
+    window.menuBar()->addMenu(new Panorel::Menu(&manager, /*extended=*/true, &window));
     window.show();
 
-    manager.saveCurrentViewAs(QStringLiteral("Wide")); // Keep the layout,
-    window.removeDockWidget(window.findChild<QDockWidget*>(QStringLiteral("files")));
-    manager.activateView(QStringLiteral("Wide")); // and bring it back.
-    return QApplication::exec();
+    QFile stored(QStringLiteral("layouts.views"));
+    if (stored.open(QIODevice::ReadOnly))
+        manager.fromXml(stored.readAll(), /*merge=*/false); // The layouts of the last run,
+    stored.close();
+    const int result = QApplication::exec();
+    QSaveFile file(stored.fileName());
+    if (file.open(QIODevice::WriteOnly)) {
+        file.write(manager.toXml(/*markActive=*/true)); // and those of this one.
+        file.commit();
+    }
+    return result;
 }

@@ -45,6 +45,26 @@ private Q_SLOTS:
         QVERIFY(f.dock.isHidden());
     }
 
+    // As after QApplication::exec(), when the user has closed the window.
+    void closedWindowIsSavedAsItWas_data()
+    {
+        QTest::addColumn<bool>("floating");
+        QTest::newRow("docked") << false;
+        QTest::newRow("floating") << true;
+    }
+
+    void closedWindowIsSavedAsItWas()
+    {
+        QFETCH(bool, floating);
+        CuresFixture f;
+        f.dock.setFloating(floating);
+        QCoreApplication::processEvents();
+        const QByteArray shown = f.manager.toXml(/*markActive=*/true);
+        f.window.close();
+        QCoreApplication::processEvents();
+        QCOMPARE(f.manager.toXml(/*markActive=*/true), shown);
+    }
+
     void unreadableFileIsKept_data()
     {
         QTest::addColumn<QByteArray>("bytes");

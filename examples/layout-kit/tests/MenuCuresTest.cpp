@@ -54,6 +54,20 @@ private Q_SLOTS:
         QCOMPARE(f.manager.views(), QStringList{QStringLiteral("Old")});
     }
 
+    void arrowsGoOnAfterTheMouse()
+    {
+        CuresFixture f;
+        f.save(QStringLiteral("Old"));
+        LayoutCures::focusNameField(f.menu);
+        f.open();
+        QAction* way = f.saveAs()->menuAction();
+        QTest::mouseClick(&f.menu, Qt::LeftButton, {}, f.menu.actionGeometry(way).center());
+        QTRY_VERIFY(qobject_cast<QLineEdit*>(f.saveAs()->focusWidget()));
+        f.press(Qt::Key_Down);
+        QVERIFY(f.saveAs()->activeAction());
+        QCOMPARE(f.saveAs()->activeAction()->text(), QStringLiteral("Old"));
+    }
+
     void keyboardLeavesTheMenuBar()
     {
         CuresFixture f;
