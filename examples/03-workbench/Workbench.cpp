@@ -9,8 +9,10 @@
 #include <QDockWidget>
 #include <QEvent>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QScreen>
 #include <QStatusBar>
 #include <QStyle>
 #include <QToolBar>
@@ -51,14 +53,29 @@ QList<Panorel::ManagedWindow> Workbench::managedWindows()
 
 void Workbench::start()
 {
-    m_plot.start();
+    placeSideBySide();
     m_editor.start();
+    m_plot.start();
     makeFactoryDefault();
     m_editor.restoreGeometry(m_session.value(QStringLiteral("editor")).toByteArray());
     m_plot.restoreGeometry(m_session.value(QStringLiteral("plot")).toByteArray());
     load();
     m_manager.setProgramStartView(m_manager.toXml(/*markActive=*/true));
     m_isStarted = true;
+    m_editor.activateWindow();
+}
+
+// As far as the screen is wide enough.
+void Workbench::placeSideBySide()
+{
+    constexpr int gap = 20;
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const int width = screen.width() - m_plot.width() - 3 * gap;
+    m_editor.resize(qBound(700, width, m_editor.width()),
+                    qMin(m_editor.height(), screen.height() - 4 * gap));
+    m_editor.move(screen.topLeft() + QPoint(gap, gap));
+    const int x = qMin(m_editor.x() + m_editor.width() + gap, screen.right() - m_plot.width());
+    m_plot.move(qMax(x, screen.left()), screen.top() + gap);
 }
 
 void Workbench::addMenus()

@@ -51,6 +51,7 @@ private:
     void addCures();
     void followManager();
 
+    void placeSideBySide();
     void makeFactoryDefault();
     void arrangeFocus();
     void arrangeForDebugging();

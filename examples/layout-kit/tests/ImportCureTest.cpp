@@ -122,6 +122,16 @@ private Q_SLOTS:
         QCOMPARE(f.told, QStringList());
         QVERIFY(!f.undo.canUndo());
     }
+
+    void cancellingAfterAnImportTellsNothing()
+    {
+        CuresFixture f;
+        LayoutCures::explainImports(f.menu, f.manager, f.undo, f.tell());
+        import(f, QStringLiteral("Import ..."), write(f.manager.toXml(/*markActive=*/true)));
+        QCOMPARE(f.told.size(), 1);
+        import(f, QStringLiteral("Import ..."), QString());
+        QCOMPARE(f.told.size(), 1);
+    }
 };
 
 QTEST_MAIN(ImportCureTest)
