@@ -2,18 +2,22 @@
 //
 // Records the state blobs of real main windows, for tests to read:
 //
-//     RecordBlobs <folder>
+//     RecordBlobs <folder>               the blobs, and a picture of each window beside its blob
+//     RecordBlobs --pictures <folder>    the pictures only
 //
 // Each window is built by one function below; its name in the list is the name of the file. Run it
-// with QT_QPA_PLATFORM=offscreen, so that no window manager has a say in the sizes.
+// with QT_QPA_PLATFORM=offscreen, so that no window manager has a say in the sizes. It builds with
+// Qt 6 as well, whose blobs are recorded too.
 
 #include <QApplication>
 #include <QDataStream>
 #include <QDir>
 #include <QDockWidget>
 #include <QFile>
+#include <QImage>
 #include <QLabel>
 #include <QMainWindow>
+#include <QPainter>
 #include <QTextStream>
 #include <QToolBar>
 
@@ -250,16 +254,22 @@ const Case cases[] = {
     {"rejected/floating-tabs", &floatingTabs},
 };
 
-QByteArray record(const Case& what)
+/** The window and what floats above it, in few colours, for a picture is kept for each blob. */
+QImage picture(QMainWindow& window)
 {
-    QMainWindow window;
-    window.setCentralWidget(new QLabel(text("Centre")));
-    window.resize(640, 480);
-    window.show();
-    QCoreApplication::processEvents();
-    what.build(window);
-    QCoreApplication::processEvents();
-    return window.saveState(what.version);
+    QImage image(window.size(), QImage::Format_RGB32);
+    QPainter painter(&image);
+    painter.drawPixmap(0, 0, window.grab());
+    const QList<QWidget*> children = window.findChildren<QWidget*>();
+    for (QWidget* const child : children) {
+        if (!child->isWindow() || !child->isVisible())
+            continue;
+        const QPoint place = child->pos() - window.pos();
+        painter.drawPixmap(place, child->grab());
+        painter.drawRect(QRect(place, child->size() - QSize(1, 1)));
+    }
+    painter.end();
+    return image.convertToFormat(QImage::Format_Indexed8, Qt::ThresholdDither);
 }
 
 bool save(const QString& fileName, const QByteArray& bytes)
@@ -268,25 +278,39 @@ bool save(const QString& fileName, const QByteArray& bytes)
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
 }
 
+bool record(const Case& what, const QDir& folder, bool onlyPicture)
+{
+    QMainWindow window;
+    window.setCentralWidget(new QLabel(text("Centre")));
+    window.resize(640, 480);
+    window.show();
+    QCoreApplication::processEvents();
+    what.build(window);
+    QCoreApplication::processEvents();
+    const QString name = folder.filePath(text(what.name));
+    const QByteArray blob = window.saveState(what.version);
+    QTextStream(stdout) << blob.size() << ' ' << what.name << '\n';
+    return (onlyPicture || save(name + QStringLiteral(".blob"), blob)) &&
+           picture(window).save(name + QStringLiteral(".png"), nullptr, /*quality=*/0);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
-    QTextStream output(stdout);
-    if (arguments.size() != 2) {
-        output << "Usage: RecordBlobs <folder>\n";
+    QStringList arguments = QCoreApplication::arguments().mid(1);
+    const bool onlyPictures = arguments.removeAll(QStringLiteral("--pictures")) > 0;
+    if (arguments.size() != 1) {
+        QTextStream(stdout) << "Usage: RecordBlobs [--pictures] <folder>\n";
         return 2;
     }
-    const QDir folder(arguments[1]);
+    const QDir folder(arguments[0]);
     if (!folder.mkpath(text("rejected")))
         return 1;
     for (const Case& what : cases) {
-        const QByteArray blob = record(what);
-        if (!save(folder.filePath(text(what.name) + QStringLiteral(".blob")), blob))
+        if (!record(what, folder, onlyPictures))
             return 1;
-        output << blob.size() << ' ' << what.name << '\n';
     }
     return 0;
 }

@@ -9,7 +9,7 @@
 
 namespace Panorel::Test {
 
-/** Blobs of real windows. Every file in tests/data/blobs is a case. */
+/** Blobs of real windows. Every file in tests/data/blobs, those of Qt 6 too, is a case. */
 class QtStateRecordedTest : public QObject
 {
     Q_OBJECT
@@ -26,6 +26,7 @@ private Q_SLOTS:
     void readAgain();
     void rejected_data();
     void rejected();
+    void floatingTabGroupEndsTheReading_data();
     void floatingTabGroupEndsTheReading();
 
 private:
@@ -34,13 +35,12 @@ private:
 
 namespace {
 
-void addBlobs(const QString& folder)
+void addBlobs(const char* version, const QString& folder)
 {
-    QTest::addColumn<QByteArray>("blob");
     QVERIFY(!folder.isEmpty());
     for (const RecordedBlob& blob : recordedBlobs(folder)) {
         QVERIFY2(!blob.bytes.isEmpty(), blob.name.constData());
-        QTest::addRow("%s", blob.name.constData()) << blob.bytes;
+        QTest::addRow("%s %s", version, blob.name.constData()) << blob.bytes;
     }
 }
 
@@ -48,7 +48,9 @@ void addBlobs(const QString& folder)
 
 void QtStateRecordedTest::read_data()
 {
-    addBlobs(QFINDTESTDATA("../data/blobs"));
+    QTest::addColumn<QByteArray>("blob");
+    addBlobs("Qt 5", QFINDTESTDATA("../data/blobs"));
+    addBlobs("Qt 6", QFINDTESTDATA("../data/blobs/qt6"));
 }
 
 void QtStateRecordedTest::read()
@@ -107,7 +109,9 @@ void QtStateRecordedTest::readAgain()
 
 void QtStateRecordedTest::rejected_data()
 {
-    addBlobs(QFINDTESTDATA("../data/blobs/rejected"));
+    QTest::addColumn<QByteArray>("blob");
+    addBlobs("Qt 5", QFINDTESTDATA("../data/blobs/rejected"));
+    addBlobs("Qt 6", QFINDTESTDATA("../data/blobs/qt6/rejected"));
 }
 
 void QtStateRecordedTest::rejected()
@@ -120,11 +124,19 @@ void QtStateRecordedTest::rejected()
     QCOMPARE(difference(state, reading.state), QString());
 }
 
+void QtStateRecordedTest::floatingTabGroupEndsTheReading_data()
+{
+    QTest::addColumn<QString>("fileName");
+    QTest::addRow("Qt 5") << QFINDTESTDATA("../data/blobs/rejected/floating-tabs.blob");
+    QTest::addRow("Qt 6") << QFINDTESTDATA("../data/blobs/qt6/rejected/floating-tabs.blob");
+}
+
 // The group's marker 0xF9 is no section's. The dock areas stand before it and stay; the tool bars
 // stand behind it and are lost.
 void QtStateRecordedTest::floatingTabGroupEndsTheReading()
 {
-    QFile file(QFINDTESTDATA("../data/blobs/rejected/floating-tabs.blob"));
+    QFETCH(QString, fileName);
+    QFile file(fileName);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QtState state;
     QVERIFY(!state.read(file.readAll()));
