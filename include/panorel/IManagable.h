@@ -33,8 +33,9 @@ public:
     /**
      * The windows to manage, each with its DescriptorId. Asked on the GUI thread, anew for every
      * capture and every restore, so the answer may change between calls. Every window in the list
-     * must be alive when it is returned. Where two windows share an id, the later one's layout is
-     * the one that is kept, and both get it back.
+     * must be alive when it is returned; one that another owner destroys after that is passed over,
+     * if it is not in the middle of being captured or restored. Where two windows share an id, the
+     * later one's layout is the one that is kept, and both get it back.
      */
     virtual QList<ManagedWindow> managedWindows() = 0;
 

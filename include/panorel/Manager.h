@@ -36,8 +36,13 @@ struct View;
  * toXml() and keep it.
  *
  * Use it on the GUI thread only. Signals are emitted synchronously, after the model has changed
- * unless said otherwise; a receiver may call the Manager again but not delete it. A failed
- * operation returns false, changes nothing and emits nothing; nothing throws or logs.
+ * unless said otherwise. A failed operation returns false, changes nothing and emits nothing;
+ * nothing throws or logs.
+ *
+ * A receiver, and an owner that is asked for its windows, may call any operation again and destroy
+ * windows, but not delete the Manager. The operation that was under way goes on by its own steps
+ * afterwards, on the group and the view that it had found; a signal that follows may therefore name
+ * a view that is gone. saveCurrentViewAs() makes its view anew if an owner has deleted it.
  *
  * View names are compared exactly and never checked: an empty name is stored like any other, and so
  * is "__current__", the internal name of the current view.

@@ -23,8 +23,10 @@ class Manager;
  * A view whose user data converts to true is shown in italics as "... (skipped)" and passed over by
  * toggleView(); Manager::viewUserData() tells of none so far.
  *
- * The Manager is not owned and must outlive the menu. Nothing asks for confirmation and nothing
- * reports a failure; see the Manager's operations for what each entry does. GUI thread only.
+ * The Manager is not owned and must outlive the menu. The menu may be deleted by whoever receives a
+ * signal of its actions or of the Manager, but not while one of its file dialogs is open. Nothing
+ * asks for confirmation and nothing reports a failure; see the Manager's operations for what each
+ * entry does. GUI thread only.
  */
 class PANOREL_EXPORT Menu : public QMenu
 {

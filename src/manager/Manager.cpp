@@ -110,10 +110,12 @@ bool Manager::createView(const QString& name)
     if (m_activeGroup->findView(name))
         return false;
     Group* group = m_activeGroup;
-    group->appendView(name);
+    // Copied, for the window owners are asked, and what they do may change the caller's text or
+    // replace the view.
+    const QString viewName = name;
+    group->appendView(viewName);
     const StateMap states = captureStates();
-    // Looked up again, for the window owners were asked, and what they do is theirs.
-    if (View* view = group->findView(name))
+    if (View* view = group->findView(viewName))
         view->states = states;
     Q_EMIT groupModified();
     return true;
@@ -122,19 +124,23 @@ bool Manager::createView(const QString& name)
 bool Manager::saveCurrentViewAs(const QString& name)
 {
     Group* group = m_activeGroup;
-    const bool created = !group->findView(name);
+    // Copied, for the window owners and the receivers may change the caller's text.
+    const QString viewName = name;
+    bool created = !group->findView(viewName);
     if (created)
-        group->appendView(name);
+        group->appendView(viewName);
     group->captureCurrentView();
-    // Looked up again, for the window owners were asked, and what they do is theirs.
-    View* view = group->findView(name);
-    if (!view)
-        view = group->appendView(name);
+    // Looked up again, for the owners that were asked may have deleted it.
+    View* view = group->findView(viewName);
+    if (!view) {
+        view = group->appendView(viewName);
+        created = true;
+    }
     view->states = group->currentView->states;
     group->activeView = view;
     if (created)
         Q_EMIT groupModified();
-    Q_EMIT viewActivated(name);
+    Q_EMIT viewActivated(viewName);
     return true;
 }
 
@@ -194,9 +200,17 @@ bool Manager::setViewUserData(const QVariant& userData)
 QList<ManagedWindow> Manager::managedWindows()
 {
     QList<ManagedWindow> windows;
+    // An owner that is asked may destroy a window that another one has answered with.
+    QVector<QPointer<QMainWindow>> watched;
     const QList<IManagable*> managables = m_managables;
-    for (IManagable* managable : managables)
-        windows.append(managable->managedWindows());
+    for (IManagable* managable : managables) {
+        const QList<ManagedWindow> own = managable->managedWindows();
+        windows.append(own);
+        for (const ManagedWindow& managed : own)
+            watched.append(managed.window);
+    }
+    for (int i = 0; i < windows.size(); ++i)
+        windows[i].window = watched[i];
     return windows;
 }
 

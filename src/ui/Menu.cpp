@@ -166,9 +166,11 @@ void Menu::onActionTriggered(QAction* action)
 
 void Menu::onSaveLayoutAsTriggered(const QString& name)
 {
+    // Whoever watches the menu close may delete it.
+    Manager* manager = m_manager;
     close();
     // Deliberate: an empty name is passed on too, and the Manager takes it.
-    m_manager->saveCurrentViewAs(name);
+    manager->saveCurrentViewAs(name);
 }
 
 void Menu::onSaveLayoutTriggered()

@@ -1,0 +1,259 @@
+// SPDX-License-Identifier: MIT
+#include "support/Text.h"
+
+#include <panorel/Manager.h>
+#include <panorel/Menu.h>
+#include <panorel/ViewButton.h>
+
+#include <QLineEdit>
+#include <QPointer>
+#include <QWidgetAction>
+#include <QtTest>
+
+#include <functional>
+#include <memory>
+
+using namespace Panorel;
+using namespace Panorel::Tests;
+
+namespace {
+
+QAction* entryOf(const QMenu& menu, const QString& text)
+{
+    const QList<QAction*> actions = menu.actions();
+    for (QAction* const action : actions) {
+        if (action->text() == text)
+            return action;
+    }
+    return nullptr;
+}
+
+QMenu* subMenuOf(const QMenu& menu, const QString& text)
+{
+    const QAction* const entry = entryOf(menu, text);
+    return entry ? entry->menu() : nullptr;
+}
+
+QStringList textsOf(const QMenu& menu)
+{
+    QStringList texts;
+    const QList<QAction*> actions = menu.actions();
+    for (const QAction* const action : actions) {
+        if (action->isSeparator())
+            break;
+        texts.append(action->text());
+    }
+    return texts;
+}
+
+QLineEdit* editOf(const QMenu& menu)
+{
+    const QMenu* const saveAs = subMenuOf(menu, "Save Current Layout As..."_s);
+    auto* const action = qobject_cast<QWidgetAction*>(saveAs->actions().first());
+    return qobject_cast<QLineEdit*>(action->defaultWidget());
+}
+
+/** Runs an action when the watched object is told to close, before it does. */
+class CloseWatch : public QObject
+{
+public:
+    std::function<void()> onClose;
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        if (event->type() != QEvent::Close || !onClose)
+            return QObject::eventFilter(object, event);
+        onClose();
+        return true;
+    }
+};
+
+} // namespace
+
+/** The menu and the button while others delete them, rebuild them or change the views. */
+class MenuReentryTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void deletedByItsOwnEntry_data();
+    void deletedByItsOwnEntry();
+    void deletedByASignal_data();
+    void deletedByASignal();
+    void deletedByReturnInItsField();
+    void deletedWhenItCloses();
+    void changedWhilePoppedUp();
+    void closedByTheChangeItMakes();
+    void buttonDeletedByItsClick();
+    void fieldRebuiltByReturn();
+
+private:
+    QMenu& menu() { return *m_menu; }
+
+    std::unique_ptr<Manager> m_manager;
+    QPointer<Menu> m_menu;
+};
+
+void MenuReentryTest::init()
+{
+    m_manager = std::make_unique<Manager>(lines({"G", "H"}), false);
+    QVERIFY(m_manager->createView("a"_s));
+    QVERIFY(m_manager->saveCurrentViewAs("b"_s));
+    const QByteArray document = m_manager->toXml(/*markActive=*/true);
+    QVERIFY(m_manager->setFactoryDefaultView(document));
+    QVERIFY(m_manager->setProgramStartView(document));
+    m_menu = new Menu(m_manager.get(), /*extended=*/true);
+}
+
+void MenuReentryTest::cleanup()
+{
+    delete m_menu;
+    QCOMPARE(QApplication::topLevelWidgets().size(), 0);
+    m_manager.reset();
+}
+
+void MenuReentryTest::deletedByItsOwnEntry_data()
+{
+    QTest::addColumn<QString>("subMenu");
+    QTest::addColumn<QString>("entry");
+    QTest::addColumn<QStringList>("views");
+    QTest::addColumn<QString>("active");
+    QTest::addRow("view") << QString() << "a"_s << lines({"a", "b"}) << "a"_s;
+    QTest::addRow("save") << "Save Current Layout As..."_s
+                          << "a"_s << lines({"a", "b"}) << "a"_s;
+    QTest::addRow("delete") << "Delete Layout..."_s
+                            << "b"_s << lines({"a"}) << QString();
+    QTest::addRow("program start")
+        << QString() << "Reset Layout to Program Start"_s << lines({"a", "b"}) << "b"_s;
+    QTest::addRow("factory default")
+        << QString() << "Reset Layout to Factory Default"_s << lines({"a", "b"}) << "b"_s;
+}
+
+// The operation that the entry starts goes on to its end without the menu.
+void MenuReentryTest::deletedByItsOwnEntry()
+{
+    QFETCH(QString, subMenu);
+    QFETCH(QString, entry);
+    const QMenu* const holder = subMenu.isEmpty() ? m_menu.data() : subMenuOf(menu(), subMenu);
+    connect(m_manager.get(), &Manager::viewActivated, this, [this] { delete m_menu; });
+    entryOf(*holder, entry)->trigger();
+    QVERIFY(!m_menu);
+    QTEST(m_manager->views(), "views");
+    QTEST(m_manager->activeView(), "active");
+}
+
+void MenuReentryTest::deletedByASignal_data()
+{
+    QTest::addColumn<bool>("before");
+    QTest::addRow("received after the menu") << false;
+    QTest::addRow("received before the menu") << true;
+}
+
+void MenuReentryTest::deletedByASignal()
+{
+    QFETCH(bool, before);
+    const std::vector<std::function<void()>> acts{
+        [this] { QVERIFY(m_manager->createView("c"_s)); }, [this] { m_manager->deleteView("b"_s); },
+        [this] { QVERIFY(m_manager->activateGroup("H"_s)); }, [this] { m_manager->clear(); }};
+    for (const auto& act : acts) {
+        QObject receiver;
+        const auto remove = [this] { delete m_menu; };
+        const auto connectReceiver = [&] {
+            connect(m_manager.get(), &Manager::groupModified, &receiver, remove);
+            connect(m_manager.get(), &Manager::groupActivated, &receiver, remove);
+        };
+        // Receivers are told in the order of their connecting.
+        delete m_menu;
+        if (before)
+            connectReceiver();
+        m_menu = new Menu(m_manager.get(), /*extended=*/true);
+        if (!before)
+            connectReceiver();
+        act();
+        QVERIFY(!m_menu);
+    }
+    QCOMPARE(m_manager->views(), QStringList());
+}
+
+void MenuReentryTest::deletedByReturnInItsField()
+{
+    connect(m_manager.get(), &Manager::groupModified, this, [this] { delete m_menu; });
+    QLineEdit* const edit = editOf(menu());
+    QTest::keyClicks(edit, "typed"_s);
+    QTest::keyClick(edit, Qt::Key_Return);
+    QVERIFY(!m_menu);
+    QCOMPARE(m_manager->views(), lines({"a", "b", "typed"}));
+    QCOMPARE(m_manager->activeView(), "typed"_s);
+}
+
+void MenuReentryTest::deletedWhenItCloses()
+{
+    CloseWatch watch;
+    m_menu->installEventFilter(&watch);
+    watch.onClose = [this] { delete m_menu; };
+    m_menu->popup(QPoint(0, 0));
+    QLineEdit* const edit = editOf(menu());
+    QTest::keyClicks(edit, "typed"_s);
+    QTest::keyClick(edit, Qt::Key_Return);
+    QVERIFY(!m_menu);
+    QCOMPARE(m_manager->activeView(), "typed"_s);
+}
+
+void MenuReentryTest::changedWhilePoppedUp()
+{
+    m_menu->popup(QPoint(0, 0));
+    m_menu->setActiveAction(entryOf(menu(), "b"_s));
+    m_manager->deleteView("b"_s);
+    QCOMPARE(textsOf(menu()), lines({"a"}));
+    QVERIFY(m_manager->createView("c"_s));
+    QCOMPARE(textsOf(menu()), lines({"a", "c"}));
+    QTest::keyClick(m_menu, Qt::Key_Up);
+    QVERIFY(m_manager->activateGroup("H"_s));
+    QCOMPARE(textsOf(menu()), QStringList());
+    QVERIFY(m_manager->activateFactoryDefaultView());
+    QVERIFY(m_manager->activateGroup("G"_s));
+    QCOMPARE(textsOf(menu()), lines({"a", "b"}));
+    QVERIFY(entryOf(menu(), "b"_s)->isChecked());
+    QVERIFY(m_menu->isVisible());
+    m_menu->close();
+}
+
+void MenuReentryTest::closedByTheChangeItMakes()
+{
+    m_menu->popup(QPoint(0, 0));
+    QMenu* const deleteMenu = subMenuOf(menu(), "Delete Layout..."_s);
+    deleteMenu->popup(QPoint(0, 0));
+    deleteMenu->setActiveAction(entryOf(*deleteMenu, "b"_s));
+    // The entry is destroyed by the rebuilding while it is still triggered.
+    QTest::keyClick(deleteMenu, Qt::Key_Return);
+    QCOMPARE(m_manager->views(), lines({"a"}));
+    QCOMPARE(textsOf(menu()), lines({"a"}));
+    QVERIFY(!deleteMenu->isVisible());
+    m_menu->close();
+}
+
+void MenuReentryTest::buttonDeletedByItsClick()
+{
+    QPointer<ViewButton> button = new ViewButton(m_manager.get(), "Next"_s);
+    connect(m_manager.get(), &Manager::viewActivated, this, [&] { delete button; });
+    button->click();
+    QVERIFY(!button);
+    QCOMPARE(m_manager->activeView(), "a"_s);
+}
+
+void MenuReentryTest::fieldRebuiltByReturn()
+{
+    const QPointer<QLineEdit> edit = editOf(menu());
+    QTest::keyClicks(edit, "new"_s);
+    QTest::keyClick(edit, Qt::Key_Enter);
+    QVERIFY(!edit);
+    QCOMPARE(textsOf(menu()), lines({"a", "b", "new"}));
+    QCOMPARE(editOf(menu())->text(), QString());
+}
+
+QTEST_MAIN(MenuReentryTest)
+#include "MenuReentryTest.moc"
