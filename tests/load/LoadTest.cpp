@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/Owner.h"
+#include "support/ResourceLimits.h"
 #include "support/SignalLog.h"
 #include "support/SmallWindow.h"
 
@@ -50,7 +51,8 @@ void LoadTest::tenThousandViewsOfTwentyWindows()
         owner.windows.append({QString::number(owner.windows.size()), &window});
     Manager manager(lines({"G"}), true);
     manager.registerManagable(owner);
-    const int count = 10000;
+    // Ten thousand take minutes with AddressSanitizer.
+    const int count = Test::hasAddressSanitizer ? 1000 : 10000;
     for (int i = 0; i < count; ++i) {
         // Window n is in area (i + n) % 4 of view i for the first four, and stays there.
         for (std::size_t n = 0; n < 4; ++n)
@@ -60,7 +62,7 @@ void LoadTest::tenThousandViewsOfTwentyWindows()
     QCOMPARE(manager.views().size(), count);
     QCOMPARE(manager.createView(viewName(count - 1)), false);
     QVERIFY(manager.viewsValid());
-    for (const int i : {0, 1, 4998, 9999}) {
+    for (const int i : {0, 1, count / 2 - 2, count - 1}) {
         QVERIFY(manager.activateView(viewName(i)));
         for (std::size_t n = 0; n < 4; ++n)
             QCOMPARE(windows[n].dockArea(), areas[(std::size_t(i) + n) % 4]);
@@ -70,7 +72,7 @@ void LoadTest::tenThousandViewsOfTwentyWindows()
         manager.deleteView(viewName(i));
     QCOMPARE(manager.views().size(), count / 2);
     QCOMPARE(manager.views().first(), viewName(1));
-    QCOMPARE(manager.activeView(), viewName(9999));
+    QCOMPARE(manager.activeView(), viewName(count - 1));
     manager.clear();
     QCOMPARE(manager.views(), QStringList());
 }
