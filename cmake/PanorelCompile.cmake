@@ -1,5 +1,13 @@
 # SPDX-License-Identifier: MIT
 
+# A library that leaves nothing undefined finds its mistakes when it is linked. With clang the
+# sanitizers' functions are in the program only, so an instrumented library cannot be like that.
+set(PANOREL_NO_UNDEFINED "LINKER:--no-undefined")
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang"
+    AND (PANOREL_BUILD_FUZZERS OR CMAKE_CXX_FLAGS MATCHES "-fsanitize"))
+    set(PANOREL_NO_UNDEFINED "")
+endif()
+
 # The compiler settings of every target of this project. They are private: a project that links
 # Panorel keeps its own.
 function(panorel_compile_settings target)
@@ -26,6 +34,13 @@ function(panorel_compile_settings target)
     if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
         # Qt's own macros are called so, QSKIP() for one.
         target_compile_options(${target} PRIVATE -Wno-gnu-zero-variadic-macro-arguments)
+    endif()
+    if(PANOREL_BUILD_FUZZERS)
+        # Everything is instrumented, for a fuzzer is led by the branches that its inputs take.
+        set(sanitizers -fsanitize=fuzzer-no-link,address,undefined)
+        target_compile_options(${target} PRIVATE ${sanitizers} -fno-sanitize-recover=all
+            -fno-omit-frame-pointer)
+        target_link_options(${target} PRIVATE ${sanitizers})
     endif()
 endfunction()
 
