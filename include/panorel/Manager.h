@@ -71,6 +71,7 @@ public:
 
     /** Names of all groups in the order given at construction. */
     QStringList groups() const;
+    /** Name of the group that all view operations act on. */
     QString activeGroup() const;
 
     /** Names of the active group's saved views in creation order. */
@@ -199,8 +200,9 @@ public Q_SLOTS:
     bool activateView(const QString& name);
 
     /**
-     * Replaces all saved views by the factory-default document, as fromXml(document, false) does.
-     * @return false when none is set.
+     * Replaces all saved views by the factory-default document, as fromXml(document, false) does,
+     * with its signals.
+     * @return false, with nothing changed and nothing emitted, when none is set.
      */
     bool activateFactoryDefaultView();
     /** As activateFactoryDefaultView(), for the program-start document. */

@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <memory>
+#include <utility>
 #include <vector>
 
 class QByteArray;
@@ -24,8 +25,9 @@ namespace Panorel {
  *
  * Reentrant; one value is used by one thread at a time.
  *
- * Trusting no blob is the caller's part as well: the items that read() repeats (see there) make the
- * memory of a value grow with the square of the number of records in one section.
+ * One bound is the caller's to set, on the size of blobs: the items that read() repeats (see there)
+ * make a value take memory for as many items as one section has, times its records or lines. Where
+ * there is no memory for them read() fails.
  */
 class PANOREL_EXPORT QtState
 {
@@ -190,6 +192,7 @@ public:
     std::vector<ToolBarAreaLayout> m_toolBarAreaLayouts;
 
 private:
+    bool readSections(QDataStream& stream);
     bool readDockAreaLayout(QDataStream& stream);
     bool readDockAreaLayoutBlock(QDataStream& stream, DockAreaLayout::Dock::Block& block) const;
     bool readToolBarAreaLayout(QDataStream& stream, int marker);

@@ -23,9 +23,14 @@ public:
         Q_ASSERT(size <= capacity);
         return stream.readRawData(m_bytes, size) == size && stream.status() == QDataStream::Ok;
     }
-    unsigned char takeByte() { return static_cast<unsigned char>(m_bytes[m_position++]); }
+    unsigned char takeByte()
+    {
+        Q_ASSERT(m_position < capacity);
+        return static_cast<unsigned char>(m_bytes[m_position++]);
+    }
     int takeInt()
     {
+        Q_ASSERT(m_position + intSize <= capacity);
         const int value = qFromBigEndian<qint32>(m_bytes + m_position);
         m_position += intSize;
         return value;
@@ -38,6 +43,7 @@ public:
 
     ByteRun& putByte(unsigned char value)
     {
+        Q_ASSERT(m_position < capacity);
         m_bytes[m_position++] = static_cast<char>(value);
         return *this;
     }

@@ -7,9 +7,8 @@
 #include <QDataStream>
 #include <QFile>
 
-#include <algorithm>
 #include <cstddef>
-#include <iterator>
+#include <new>
 #include <utility>
 
 namespace Panorel {
@@ -147,6 +146,16 @@ bool QtState::read(const QByteArray& state)
     stream >> m_versionMarker >> m_version;
     if (!isOk(stream) || m_versionMarker != QMainWindowLayout_VersionMarker)
         return false;
+    try {
+        return readSections(stream);
+    } catch (const std::bad_alloc&) {
+        // Repeated items can take far more memory than the blob.
+        return false;
+    }
+}
+
+bool QtState::readSections(QDataStream& stream)
+{
     while (!stream.atEnd()) {
         quint8 marker = 0;
         stream >> marker;
@@ -173,7 +182,7 @@ bool QtState::readDockAreaLayout(QDataStream& stream)
     std::vector<std::size_t> itemEnds;
     // Deliberate: the block is not emptied between records, so each dock record's block holds the
     // items of all earlier dock records of the same section followed by its own. They are handed
-    // out once the section is complete, so that a section that fails costs no more than its bytes.
+    // out once the section is complete, so that the repetition costs nothing in one that fails.
     Block block;
     int dockCount = 0;
     stream >> dockCount;

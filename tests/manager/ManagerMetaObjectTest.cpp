@@ -163,6 +163,10 @@ void ManagerMetaObjectTest::specialViewsByName()
     bool result = true;
     QVERIFY(QMetaObject::invokeMethod(&manager, slot.constData(), Q_RETURN_ARG(bool, result)));
     QCOMPARE(result, false);
+    QVERIFY(manager.setFactoryDefaultView(manager.toXml(false)));
+    QVERIFY(manager.setProgramStartView(manager.toXml(false)));
+    QVERIFY(QMetaObject::invokeMethod(&manager, slot.constData(), Q_RETURN_ARG(bool, result)));
+    QCOMPARE(result, true);
 }
 
 void ManagerMetaObjectTest::invokeWithoutReturnSlot()

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void activateGroup();
     void activateGroupWithActiveView();
     void activateActiveGroup();
+    void activateGroupCapturesForTheOldGroup();
     void activateGroupRestoresFirst();
     void activateGroupEmitsTheNamesKept_data();
     void activateGroupEmitsTheNamesKept();
@@ -204,6 +205,18 @@ void ManagerSignalOrderTest::activateActiveGroup()
     QCOMPARE(manager.activateGroup("G"_s), true);
     QCOMPARE(log.lines(), lines({"groupActivated('G') [G: a; active 'a']",
                                  "viewActivated('a') [G: a; active 'a']"}));
+}
+
+// The owner is asked once for the capture and once for the restore.
+void ManagerSignalOrderTest::activateGroupCapturesForTheOldGroup()
+{
+    Owner owner;
+    Manager manager(lines({"G", "H"}), false);
+    manager.registerManagable(owner);
+    QStringList groups;
+    owner.onAsked = [&] { groups.append(manager.activeGroup()); };
+    QVERIFY(manager.activateGroup("H"_s));
+    QCOMPARE(groups, lines({"G", "H"}));
 }
 
 void ManagerSignalOrderTest::activateGroupRestoresFirst()

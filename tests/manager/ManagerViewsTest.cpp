@@ -353,6 +353,8 @@ void ManagerViewsTest::userDataIsInvalid()
     QCOMPARE(log.lines(), QStringList());
     QCOMPARE(manager.views(), lines({"a"}));
     QCOMPARE(manager.activeView(), "a"_s);
+    // Nor does it reach the document: neither the view nor the current view has any.
+    QCOMPARE(manager.toXml(true).count("<UserData></UserData>"), 2);
 }
 
 QTEST_MAIN(ManagerViewsTest)

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void hugeCount_data();
     void hugeCount();
     void hugeCountsInEveryLevel();
+    void repeatedItemsBeyondMemory();
 
 private:
     MessageWatch m_watch;
@@ -88,6 +89,22 @@ void QtStateCountTest::hugeCountsInEveryLevel()
     QVERIFY(!state.read(blob.blob()));
     QVERIFY(!state.read(blob.sequence(1, huge).blob()));
     QVERIFY(state.m_dockAreaLayouts.empty());
+}
+
+// 200 KB that are sound, and whose repeated items would take close to 3 GB.
+void QtStateCountTest::repeatedItemsBeyondMemory()
+{
+    if (hasAddressSanitizer)
+        return;
+    const int itemCount = 4700;
+    const int emptyLines = 12500;
+    const QByteArray blob = soundHead().toolBarSection(emptyLines + 1).line(0, itemCount).blob() +
+                            BlobBuilder().toolBar(text("T")).blob().repeated(itemCount) +
+                            BlobBuilder().line(0, 0).blob().repeated(emptyLines);
+    QtState state;
+    QVERIFY(!state.read(blob));
+    QVERIFY(state.m_toolBarAreaLayouts.empty());
+    QCOMPARE(state.m_version, 0);
 }
 
 } // namespace Panorel::Test
