@@ -25,7 +25,7 @@ const QString editing = QStringLiteral("Editing");
 const QString debugging = QStringLiteral("Debugging");
 const QString review = QStringLiteral("Review");
 
-const QKeySequence buttonKeys(Qt::CTRL + Qt::Key_L);
+const QKeySequence buttonKeys(QStringLiteral("Ctrl+L"));
 
 } // namespace
 
@@ -99,7 +99,7 @@ void Workbench::addToolBar()
     m_button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     bar->addWidget(m_button);
     QAction* saveAs = bar->addAction(tr("Save As..."), this, &Workbench::askForName);
-    saveAs->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_S);
+    saveAs->setShortcut(QStringLiteral("Ctrl+Shift+S"));
     saveAs->setToolTip(tr("Save the layout under a name (%1)")
                            .arg(saveAs->shortcut().toString(QKeySequence::NativeText)));
 }

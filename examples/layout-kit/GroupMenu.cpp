@@ -16,7 +16,7 @@ GroupMenu::GroupMenu(Manager& manager, QWidget* parent)
         QAction* action = addAction(name);
         choice->addAction(action)->setCheckable(true);
         action->setChecked(name == manager.activeGroup());
-        action->setShortcut(Qt::CTRL + Qt::Key_1 + choice->actions().size() - 1);
+        action->setShortcut(QStringLiteral("Ctrl+%1").arg(choice->actions().size()));
         connect(action, &QAction::triggered, &manager,
                 [&manager, name] { manager.activateGroup(name); });
         connect(&manager, &Manager::groupActivated, action, [action, name](const QString& active) {

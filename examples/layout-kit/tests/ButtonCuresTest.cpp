@@ -34,7 +34,7 @@ private Q_SLOTS:
         auto* button = new Panorel::ViewButton(&f.manager, QStringLiteral("Next"), bar);
         bar->addWidget(button);
         QCoreApplication::processEvents();
-        LayoutCures::openByKeys(*button, QKeySequence(Qt::CTRL + Qt::Key_M), f.window);
+        LayoutCures::openByKeys(*button, QStringLiteral("Ctrl+M"), f.window);
         QVERIFY(opens(*button));
     }
 
@@ -45,7 +45,7 @@ private Q_SLOTS:
         auto* button = new Panorel::ViewButton(&f.manager, QStringLiteral("Next"), bar);
         bar->addWidget(button);
         bar->hide();
-        LayoutCures::openByKeys(*button, QKeySequence(Qt::CTRL + Qt::Key_M), f.window);
+        LayoutCures::openByKeys(*button, QStringLiteral("Ctrl+M"), f.window);
         QCoreApplication::processEvents();
         f.press(Qt::Key_M, Qt::ControlModifier);
         QVERIFY(button->menu()->isVisible());
