@@ -16,9 +16,10 @@ QByteArray content(const QByteArray& data, const QByteArray& name)
     if (start < 0)
         return QByteArray();
     const int from = data.indexOf('>', start) + 1;
-    const int end =
+    // Unsigned, so that the one that is not found, -1, is the larger one.
+    const quint32 end =
         qMin(quint32(data.indexOf("</View>", from)), quint32(data.indexOf("</CurrentView>", from)));
-    return data.mid(from, end - from).replace("\n", "").replace("  ", "");
+    return data.mid(from, static_cast<int>(end) - from).replace("\n", "").replace("  ", "");
 }
 
 } // namespace

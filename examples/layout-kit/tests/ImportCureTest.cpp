@@ -15,7 +15,7 @@ private:
 
     QString write(const QByteArray& bytes)
     {
-        const QString name = m_folder.filePath(QStringLiteral("a.views"));
+        QString name = m_folder.filePath(QStringLiteral("a.views"));
         QFile file(name);
         if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
             qFatal("cannot write %s", qPrintable(name));
