@@ -114,7 +114,8 @@ void LoadTest::thousandOwners()
 
 void LoadTest::nameOfAMegabyte()
 {
-    const QString name(512 * 1024, QChar(u'\u5E83'));
+    // AddressSanitizer copies a text that grows at each step, and Qt's reader lets it grow slowly.
+    const QString name((Test::hasAddressSanitizer ? 16 : 512) * 1024, QChar(u'\u5E83'));
     SmallWindow window;
     Owner owner({{name, &window}});
     Manager manager({name}, true);
