@@ -30,18 +30,22 @@ bool hasHints(const QByteArray& data)
     return false;
 }
 
+// By the names as they are spelled: an inner element may declare a prefix anew.
 void copyStartElement(const QXmlStreamReader& reader, QXmlStreamWriter& writer)
 {
-    // Before the element, which then finds its prefix among them.
+    writer.writeStartElement(reader.qualifiedName().toString());
     const QXmlStreamNamespaceDeclarations declarations = reader.namespaceDeclarations();
-    for (const QXmlStreamNamespaceDeclaration& declaration : declarations)
-        writer.writeNamespace(declaration.namespaceUri().toString(),
-                              declaration.prefix().toString());
-    writer.writeStartElement(reader.namespaceUri().toString(), reader.name().toString());
+    for (const QXmlStreamNamespaceDeclaration& declaration : declarations) {
+        const QString prefix = declaration.prefix().toString();
+        const QString xmlns = QStringLiteral("xmlns");
+        writer.writeAttribute(prefix.isEmpty() ? xmlns : QString(xmlns + QLatin1Char(':') + prefix),
+                              declaration.namespaceUri().toString());
+    }
     const QXmlStreamAttributes attributes = reader.attributes();
     for (const QXmlStreamAttribute& attribute : attributes) {
         if (!isHint(attribute))
-            writer.writeAttribute(attribute);
+            writer.writeAttribute(attribute.qualifiedName().toString(),
+                                  attribute.value().toString());
     }
 }
 

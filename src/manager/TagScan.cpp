@@ -25,16 +25,20 @@ TagScan::TagScan(const QByteArray& data)
         scan();
 }
 
-// As every reader finds it out: by the first bytes, then by the XML declaration.
+// Only the declarations that toXml() and most programs write are known here. A reader may take
+// others differently: Qt's goes by the last of several encodings.
 bool TagScan::isUtf8() const
 {
-    const QByteArray start = m_data.startsWith("\xEF\xBB\xBF") ? m_data.mid(3, 5) : m_data.left(5);
-    if (!start.startsWith('<') || start.contains('\0'))
-        return false;
-    if (start != "<?xml")
-        return true;
-    const QByteArray declaration = m_data.left(behind("?>", 0)).toUpper();
-    return !declaration.contains("ENCODING") || declaration.contains("ENCODING=\"UTF-8\"");
+    int start = m_data.startsWith("\xEF\xBB\xBF") ? 3 : 0;
+    if (m_data.mid(start, 5) == "<?xml") {
+        const QByteArray declaration = m_data.mid(start, behind("?>", start) - start).toUpper();
+        return declaration == "<?XML VERSION=\"1.0\" ENCODING=\"UTF-8\"?>" ||
+               declaration == "<?XML VERSION=\"1.0\"?>";
+    }
+    while (start < m_data.size() && isSpace(m_data[start]))
+        ++start;
+    const QByteArray first = m_data.mid(start, 5);
+    return first.startsWith('<') && first != "<?xml" && !first.contains('\0');
 }
 
 void TagScan::scan()

@@ -13,7 +13,7 @@ namespace Panorel {
 
 namespace {
 
-// A red that can be read on the dialog's background, be it light or dark.
+// A red for a light background, or one for a dark one.
 QString errorStyleSheet(const QPalette& palette)
 {
     const bool dark = palette.color(QPalette::Window).lightness() < 128;

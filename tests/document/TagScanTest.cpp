@@ -43,6 +43,7 @@ void TagScanTest::isPlain_data()
     row("declared UTF-8", "<?xml version=\"1.0\" encoding=\"UTF-8\"?><a/>", true);
     row("declared utf-8", "<?xml version=\"1.0\" encoding=\"utf-8\"?><a/>", true);
     row("no encoding declared", "<?xml version=\"1.0\"?><a/>", true);
+    row("blanks first", "\n <a/>", true);
     row("byte order mark", "\xEF\xBB\xBF<a/>", true);
     row("encoding in a later instruction", "<?xml version=\"1.0\"?><?x encoding=\"y\"?><a/>", true);
     row("comment that looks like a document type", "<a><!-- <!DOCTYPE b> --></a>", true);
@@ -50,7 +51,12 @@ void TagScanTest::isPlain_data()
     row("instruction that looks like a document type", "<a><?p <!DOCTYPE b>?></a>", true);
 
     row("empty", "", false);
-    row("blank first", " <a/>", false);
+    row("encoding twice", "<?xml version=\"1.0\" encoding=\"UTF-8\" encoding=\"UTF-7\"?><a/>",
+        false);
+    row("encoding twice, the other way",
+        "<?xml version=\"1.0\" encoding=\"UTF-7\" encoding=\"UTF-8\"?><a/>", false);
+    row("declaration behind a blank", " <?xml version=\"1.0\"?><a/>", false);
+    row("NUL behind a blank", QByteArray(" <\0a/>", 6), false);
     row("other encoding", "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><a/>", false);
     row("encoding in single quotes", "<?xml version=\"1.0\" encoding='UTF-8'?><a/>", false);
     row("declaration that does not end", "<?xml encoding=\"UTF-7\"", false);
@@ -90,6 +96,7 @@ void TagScanTest::hasOverfullTag_data()
         false);
     row("seven and namespaces", "<a xmlns='' b='' c='' xmlns:y='' d='' e='' f='' g='' h=''/>",
         true);
+    row("seven behind blanks", "\r\n\t <a b='' c='' d='' e='' f='' g='' h=''/>", true);
     row("signs in a value", "<a b='========' c=\"========\"/>", false);
     row("signs in text", "<a>=========</a>", false);
     row("signs in a comment", "<a><!-- <b ========= --></a>", false);

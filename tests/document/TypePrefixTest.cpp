@@ -58,6 +58,13 @@ void TypePrefixTest::declaredPrefixIsAccepted_data()
     row("after the type, with blanks around it", typed({}, "xsi:type=\" xs:string \"" + xs));
     row("declared again further in and ended",
         typed("xsi:type=\"state\"" + xs, "xsi:type=\"xs:string\"", {}, xsi + xs));
+    row("declared anew beside a schema hint",
+        "<ViewData" + declared("q", instanceNamespace) + declared("p", instanceNamespace) +
+            " p:noNamespaceSchemaLocation=\"a\" Version=\"1.1.0\"><Groups><Group Name=\"A\">"
+            "<Views><View Name=\"v\"><UserData" +
+            declared("p", schemaNamespace) +
+            " q:type=\"p:string\"/></View></Views><CurrentView Name=\"c\"/></Group></Groups>"
+            "</ViewData>");
     row("declared on the root and again on the element",
         typed({}, "xsi:type=\"xs:string\"" + xs, {}, xsi + xs));
     row("as many attributes as a tag can have",
@@ -80,6 +87,11 @@ void TypePrefixTest::undeclaredPrefixIsRefused_data()
     const QByteArray type = "xsi:type=\"y:state\"";
     const QByteArray y = declared("y", "urn:y");
     row("nowhere declared", typed(type));
+    // Qt's reader goes by the last encoding, in which this spells "xmlns".
+    QByteArray twice = typed(type);
+    twice = twice.mid(twice.indexOf("<ViewData")).replace("xmlns:xsi", "+AHg-mlns:xsi");
+    row("nowhere declared, in the second of two encodings",
+        "<?xml version=\"1.0\" encoding=\"UTF-8\" encoding=\"UTF-7\"?>" + twice);
     row("on the root", typed({}, {}, {}, declared("xsi", instanceNamespace) + ' ' + type));
     row("blanks before", typed("xsi:type=\"  y:state\""));
     row("no-break space before", typed("xsi:type=\"\xC2\xA0y:state\""));
