@@ -67,10 +67,11 @@ QStringList shortenedLanguages(const QString& language)
     return shortened;
 }
 
-// The texts in the code are English: nothing that the user likes less is wanted instead.
+// The texts in the code are English: nothing that the user likes less is wanted instead. A "C" is
+// no wish for them, for Qt puts it beside each language that it does not know.
 bool isSourceLanguage(const QString& language)
 {
-    return language == QLatin1String("en") || language == QLatin1String("C");
+    return language == QLatin1String("en");
 }
 
 QString bareLanguage(const QString& language)

@@ -154,6 +154,10 @@ void TranslationCenterTest::choosesTheCatalogue_data()
     row("English catalogue", "en_GB:de",
         germanAndFrench + QStringList{QStringLiteral("bin/panorel_en.qm=three")}, "three");
     row("no language", "C", germanAndFrench, "Layouts");
+    row("language unknown to Qt first", "tlh:de", germanAndFrench, "one");
+    row("only languages unknown to Qt", "tlh", germanAndFrench, "Layouts");
+    row("catalogue of a language unknown to Qt", "tlh:de",
+        germanAndFrench + QStringList{QStringLiteral("bin/panorel_tlh.qm=three")}, "three");
     row("language with like beginning", "d", germanAndFrench, "Layouts");
 
     const QStringList austrian{QStringLiteral("bin/panorel_de.qm=one"),
