@@ -7,7 +7,9 @@
 // - where the window's dock widget and tool bar are;
 // - the menu's entries, its check mark, and which of its resets are enabled;
 // and at the end, as often in between, on every character of the document.
-// An input is a byte of flags, then two bytes for each operation: which one, and what with.
+// An input is a byte of flags, then two bytes for each operation: which one, and what with. The
+// flags say whether the Manager merges, whether it has the window from the start, and how many
+// documents may be validated.
 
 #include "Fuzz.h"
 #include "ManagerModel.h"
@@ -47,6 +49,7 @@ public:
         , m_menu(&m_manager, /*extended=*/true)
         , m_log(m_manager)
         , m_model({"G"_s, "H"_s}, (flags & 1) != 0)
+        , m_validationsLeft((flags >> 2) % 4)
     {
         if ((flags & 2) != 0)
             registerWindow(0);
@@ -154,9 +157,12 @@ private:
 
     void loadDamaged(int argument)
     {
-        QByteArray damaged = document(argument / 2).bytes;
+        QByteArray damaged = document(argument / 4).bytes;
         damaged.truncate(damaged.size() * argument / 256);
-        require(!m_manager.fromXml(damaged, argument % 2 != 0), "half a document is refused");
+        const bool accepted = argument % 4 == 0   ? m_manager.setFactoryDefaultView(damaged)
+                              : argument % 4 == 1 ? m_manager.setProgramStartView(damaged)
+                                                  : m_manager.fromXml(damaged, argument % 4 == 2);
+        require(!accepted, "half a document is refused");
     }
 
     void keepSpecial(int argument)
@@ -343,8 +349,8 @@ private:
     /** The view whose entry has the check mark; null for none. */
     QString m_checked;
     std::vector<Document> m_documents;
-    // Each takes as long as a hundred other operations.
-    int m_validationsLeft = 2;
+    // Each takes as long as a hundred other operations, so most inputs should do with few.
+    int m_validationsLeft;
     /** Without groups while it is not set. */
     ModelDocument m_programStart;
     ModelDocument m_factoryDefault;
