@@ -20,7 +20,7 @@
 
 using namespace Panorel;
 using namespace Panorel::Fuzz;
-using namespace Panorel::Test;
+using namespace Panorel::Tests;
 
 namespace {
 

@@ -19,7 +19,7 @@
 
 using namespace Panorel;
 using namespace Panorel::Fuzz;
-using namespace Panorel::Test;
+using namespace Panorel::Tests;
 
 namespace {
 

@@ -46,7 +46,7 @@ private:
     int m_count = 0;
 };
 
-void writeStates(const std::vector<Test::RecordedBlob>& blobs, const QString& folder)
+void writeStates(const std::vector<RecordedBlob>& blobs, const QString& folder)
 {
     Seeds codec(folder + "/CodecFuzzer"_s);
     Seeds merge(folder + "/MergeFuzzer"_s);
@@ -109,8 +109,8 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "usage: WriteSeeds BLOBS SEEDS\n");
         return 2;
     }
-    std::vector<Test::RecordedBlob> blobs = Test::recordedBlobs(QString::fromLocal8Bit(argv[1]));
-    for (const auto& blob : Test::recordedBlobs(QString::fromLocal8Bit(argv[1]) + "/rejected"_s))
+    std::vector<RecordedBlob> blobs = recordedBlobs(QString::fromLocal8Bit(argv[1]));
+    for (const auto& blob : recordedBlobs(QString::fromLocal8Bit(argv[1]) + "/rejected"_s))
         blobs.push_back(blob);
     if (blobs.empty()) {
         std::fprintf(stderr, "no recorded states in %s\n", argv[1]);

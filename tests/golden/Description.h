@@ -5,7 +5,7 @@
 
 #include <QStringList>
 
-namespace Panorel::Test {
+namespace Panorel::Tests {
 
 /**
  * A value in the words of tools/describe-blob. The items that reading repeats in later records are
@@ -125,4 +125,4 @@ private:
     QStringList m_lines;
 };
 
-} // namespace Panorel::Test
+} // namespace Panorel::Tests

@@ -12,7 +12,7 @@
 #include <QToolBar>
 #include <QtTest>
 
-namespace Panorel::Test {
+namespace Panorel::Tests {
 
 /**
  * Blobs that programs of several Qt versions wrote: what each holds stands beside it, as a text and
@@ -183,7 +183,7 @@ void GoldenBlobTest::windowTakesIt()
     }
 }
 
-} // namespace Panorel::Test
+} // namespace Panorel::Tests
 
-QTEST_MAIN(Panorel::Test::GoldenBlobTest)
+QTEST_MAIN(Panorel::Tests::GoldenBlobTest)
 #include "GoldenBlobTest.moc"

@@ -11,8 +11,6 @@
 
 using namespace Panorel;
 using namespace Panorel::Tests;
-using Panorel::Test::BlobBuilder;
-using Panorel::Test::soundHead;
 
 /** The check that SECURITY.md gives to applications: it is shown there word for word. */
 class DocumentShieldTest : public QObject
@@ -42,9 +40,9 @@ void DocumentShieldTest::realBlobsPass()
 {
     const QString folder = QFINDTESTDATA("../data/blobs");
     for (const QString& path : {folder, QString(folder + "/qt6"_s)}) {
-        const auto blobs = Test::recordedBlobs(path);
+        const auto blobs = recordedBlobs(path);
         QCOMPARE(blobs.size(), std::size_t(22));
-        for (const Test::RecordedBlob& blob : blobs)
+        for (const RecordedBlob& blob : blobs)
             QVERIFY2(isHarmless(blob.bytes), blob.name.constData());
     }
 }

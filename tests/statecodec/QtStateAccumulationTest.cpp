@@ -7,7 +7,7 @@
 
 #include <QtTest>
 
-namespace Panorel::Test {
+namespace Panorel::Tests {
 
 /**
  * Deliberate: each dock record holds the items of all earlier records of its section before its
@@ -77,8 +77,8 @@ const Block& blockOf(const QtState& state, std::size_t record)
 void QtStateAccumulationTest::twoDockRecords()
 {
     BlobBuilder blob = soundHead().dockSection(2);
-    blob.dock(0, 10, 20).sequence(2, 2).widget(text("A")).widget(text("B"), 3, {1, 2, 3, 4});
-    blob.dock(1, 30, 40).sequence(1, 1).widget(text("C")).dockTail();
+    blob.dock(0, 10, 20).sequence(2, 2).widget("A"_s).widget("B"_s, 3, {1, 2, 3, 4});
+    blob.dock(1, 30, 40).sequence(1, 1).widget("C"_s).dockTail();
     QtState state;
     QVERIFY(state.read(blob.blob()));
     QCOMPARE(state.m_dockAreaLayouts.at(0).docks.size(), std::size_t(2));
@@ -90,18 +90,18 @@ void QtStateAccumulationTest::twoDockRecords()
     QCOMPARE(state.m_dockAreaLayouts[0].docks[1].size, QSize(30, 40));
 
     BlobBuilder expected = soundHead().dockSection(2);
-    expected.dock(0, 10, 20).sequence(2, 2).widget(text("A")).widget(text("B"), 3, {1, 2, 3, 4});
+    expected.dock(0, 10, 20).sequence(2, 2).widget("A"_s).widget("B"_s, 3, {1, 2, 3, 4});
     expected.dock(1, 30, 40).sequence(1, 3);
-    expected.widget(text("A")).widget(text("B"), 3, {1, 2, 3, 4}).widget(text("C")).dockTail();
+    expected.widget("A"_s).widget("B"_s, 3, {1, 2, 3, 4}).widget("C"_s).dockTail();
     QCOMPARE(difference(state.write(), expected.blob()), QString());
 }
 
 void QtStateAccumulationTest::threeDockRecordsReadTwice()
 {
     BlobBuilder blob = soundHead().dockSection(3);
-    blob.dock(0, 1, 1).sequence(2, 1).widget(text("A"));
-    blob.dock(1, 1, 1).sequence(2, 1).widget(text("B"));
-    blob.dock(2, 1, 1).sequence(2, 1).widget(text("C")).dockTail();
+    blob.dock(0, 1, 1).sequence(2, 1).widget("A"_s);
+    blob.dock(1, 1, 1).sequence(2, 1).widget("B"_s);
+    blob.dock(2, 1, 1).sequence(2, 1).widget("C"_s).dockTail();
     QtState state;
     QVERIFY(state.read(blob.blob()));
     QCOMPARE(dockNames(state, 0, 0), QStringLiteral("A"));
@@ -117,7 +117,7 @@ void QtStateAccumulationTest::recordsWithoutItems()
 {
     BlobBuilder blob = soundHead().dockSection(4);
     blob.dock(0, 1, 1).sequence(2, 0);
-    blob.dock(1, 1, 1).sequence(2, 1).widget(text("A"));
+    blob.dock(1, 1, 1).sequence(2, 1).widget("A"_s);
     blob.dock(2, 1, 1).sequence(2, 0);
     blob.dock(3, 1, 1).sequence(2, -5).dockTail();
     QtState state;
@@ -131,9 +131,9 @@ void QtStateAccumulationTest::recordsWithoutItems()
 void QtStateAccumulationTest::newSectionStartsEmpty()
 {
     BlobBuilder blob = soundHead();
-    blob.dockSection(1).dock(0, 1, 1).sequence(2, 1).widget(text("A")).dockTail();
-    blob.dockSection(2).dock(0, 1, 1).sequence(2, 1).widget(text("B"));
-    blob.dock(1, 1, 1).sequence(2, 1).widget(text("C")).dockTail();
+    blob.dockSection(1).dock(0, 1, 1).sequence(2, 1).widget("A"_s).dockTail();
+    blob.dockSection(2).dock(0, 1, 1).sequence(2, 1).widget("B"_s);
+    blob.dock(1, 1, 1).sequence(2, 1).widget("C"_s).dockTail();
     QtState state;
     QVERIFY(state.read(blob.blob()));
     QCOMPARE(dockNames(state, 0, 0), QStringLiteral("A"));
@@ -195,9 +195,9 @@ void QtStateAccumulationTest::currentIndexOfNewSectionDoesNotStay()
 void QtStateAccumulationTest::nestedBlocksAreRepeatedDeeply()
 {
     BlobBuilder blob = soundHead().dockSection(2);
-    blob.dock(0, 1, 1).sequence(2, 2).nested({1, 2, 3, 4}).tabs(1, 1, 2).widget(text("A"));
-    blob.nested().sequence(2, 1).widget(text("B")).widget(text("C"));
-    blob.dock(1, 1, 1).sequence(2, 1).nested().sequence(1, 1).widget(text("D")).dockTail();
+    blob.dock(0, 1, 1).sequence(2, 2).nested({1, 2, 3, 4}).tabs(1, 1, 2).widget("A"_s);
+    blob.nested().sequence(2, 1).widget("B"_s).widget("C"_s);
+    blob.dock(1, 1, 1).sequence(2, 1).nested().sequence(1, 1).widget("D"_s).dockTail();
     QtState state;
     QVERIFY(state.read(blob.blob()));
     QCOMPARE(dockNames(state, 0, 0), QStringLiteral("(A (B)) C"));
@@ -214,8 +214,8 @@ void QtStateAccumulationTest::nestedBlocksAreRepeatedDeeply()
 void QtStateAccumulationTest::nestedBlocksDoNotAccumulate()
 {
     BlobBuilder blob = soundHead().dockSection(1).dock(0, 1, 1).sequence(2, 2);
-    blob.nested().sequence(1, 1).widget(text("A"));
-    blob.nested().sequence(1, 1).widget(text("B")).dockTail();
+    blob.nested().sequence(1, 1).widget("A"_s);
+    blob.nested().sequence(1, 1).widget("B"_s).dockTail();
     QtState state;
     QVERIFY(state.read(blob.blob()));
     QCOMPARE(dockNames(state, 0, 0), QStringLiteral("(A) (B)"));
@@ -223,8 +223,8 @@ void QtStateAccumulationTest::nestedBlocksDoNotAccumulate()
 
 void QtStateAccumulationTest::twoLines()
 {
-    BlobBuilder blob = soundHead().toolBarSection(2).line(2, 1).toolBar(text("X"), 1, {1, 2, 3, 4});
-    blob.line(3, 2).toolBar(text("Y")).toolBar(text("Z"));
+    BlobBuilder blob = soundHead().toolBarSection(2).line(2, 1).toolBar("X"_s, 1, {1, 2, 3, 4});
+    blob.line(3, 2).toolBar("Y"_s).toolBar("Z"_s);
     QtState state;
     QVERIFY(state.read(blob.blob()));
     QCOMPARE(state.m_toolBarAreaLayouts.at(0).lines.size(), std::size_t(2));
@@ -234,17 +234,17 @@ void QtStateAccumulationTest::twoLines()
     QCOMPARE(state.m_toolBarAreaLayouts[0].lines[1].area, 3);
 
     BlobBuilder expected = soundHead().toolBarSection(2);
-    expected.line(2, 1).toolBar(text("X"), 1, {1, 2, 3, 4});
-    expected.line(3, 3).toolBar(text("X"), 1, {1, 2, 3, 4}).toolBar(text("Y")).toolBar(text("Z"));
+    expected.line(2, 1).toolBar("X"_s, 1, {1, 2, 3, 4});
+    expected.line(3, 3).toolBar("X"_s, 1, {1, 2, 3, 4}).toolBar("Y"_s).toolBar("Z"_s);
     QCOMPARE(difference(state.write(), expected.blob()), QString());
 }
 
 void QtStateAccumulationTest::threeShortLines()
 {
     BlobBuilder blob = soundHead().shortToolBarSection(4);
-    blob.line(0, 1).shortToolBar(text("X"), 1, {1, 2, 3});
+    blob.line(0, 1).shortToolBar("X"_s, 1, {1, 2, 3});
     blob.line(1, 0);
-    blob.line(2, 1).shortToolBar(text("Y"), 1, {4, 5, 6});
+    blob.line(2, 1).shortToolBar("Y"_s, 1, {4, 5, 6});
     blob.line(3, -1);
     QtState state;
     QVERIFY(state.read(blob.blob()));
@@ -263,8 +263,8 @@ void QtStateAccumulationTest::threeShortLines()
 void QtStateAccumulationTest::newToolBarSectionStartsEmpty()
 {
     BlobBuilder blob = soundHead();
-    blob.toolBarSection(1).line(2, 1).toolBar(text("X"), 1, {1, 2, 3, 4});
-    blob.shortToolBarSection(1).line(2, 1).shortToolBar(text("Y"), 1, {5, 6, 7});
+    blob.toolBarSection(1).line(2, 1).toolBar("X"_s, 1, {1, 2, 3, 4});
+    blob.shortToolBarSection(1).line(2, 1).shortToolBar("Y"_s, 1, {5, 6, 7});
     QtState state;
     QVERIFY(state.read(blob.blob()));
     QCOMPARE(lineNames(state, 1, 0), QStringLiteral("Y"));
@@ -275,16 +275,15 @@ void QtStateAccumulationTest::newToolBarSectionStartsEmpty()
 void QtStateAccumulationTest::failedSectionLeavesNothingBehind()
 {
     QtState state;
-    QVERIFY(
-        !state.read(soundHead().toolBarSection(2).line(2, 1).toolBar(text("X")).line(0, 1).blob()));
+    QVERIFY(!state.read(soundHead().toolBarSection(2).line(2, 1).toolBar("X"_s).line(0, 1).blob()));
     BlobBuilder broken = soundHead().dockSection(2).dock(0, 1, 1).sequence(1, 1);
-    QVERIFY(!state.read(broken.widget(text("A")).blob()));
+    QVERIFY(!state.read(broken.widget("A"_s).blob()));
     QVERIFY(state.read(exampleBlob()));
     QCOMPARE(dockNames(state, 0, 0), QStringLiteral("AB"));
     QCOMPARE(lineNames(state, 0, 0), QStringLiteral("T"));
 }
 
-} // namespace Panorel::Test
+} // namespace Panorel::Tests
 
-QTEST_GUILESS_MAIN(Panorel::Test::QtStateAccumulationTest)
+QTEST_GUILESS_MAIN(Panorel::Tests::QtStateAccumulationTest)
 #include "QtStateAccumulationTest.moc"

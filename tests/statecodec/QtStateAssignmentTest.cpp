@@ -21,7 +21,7 @@
 #pragma warning(disable : 4996)
 #endif
 
-namespace Panorel::Test {
+namespace Panorel::Tests {
 
 /**
  * Deliberate: an assignment to itself returns, any other never completes. The others run in a
@@ -173,15 +173,15 @@ int runCase(const QString& name)
     return 0;
 }
 
-} // namespace Panorel::Test
+} // namespace Panorel::Tests
 
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() == 3 && arguments[1] == QStringLiteral("--assign"))
-        return Panorel::Test::runCase(arguments[2]);
-    Panorel::Test::QtStateAssignmentTest test;
+        return Panorel::Tests::runCase(arguments[2]);
+    Panorel::Tests::QtStateAssignmentTest test;
     return QTest::qExec(&test, argc, argv);
 }
 

@@ -9,7 +9,7 @@
 
 #include <limits>
 
-namespace Panorel::Test {
+namespace Panorel::Tests {
 
 /**
  * Counts announced with little or nothing behind them are refused without room being made for them:
@@ -38,7 +38,7 @@ void QtStateCountTest::hugeCount_data()
     QTest::addColumn<QByteArray>("blob");
     QTest::addColumn<QByteArray>("itemBehind");
     const QByteArray none;
-    const QByteArray widget = BlobBuilder().widget(text("A")).blob();
+    const QByteArray widget = BlobBuilder().widget("A"_s).blob();
     for (const int count : {1000000, 0x01000000, std::numeric_limits<int>::max()}) {
         const auto add = [count](const char* name, const BlobBuilder& blob,
                                  const QByteArray& item) {
@@ -57,9 +57,9 @@ void QtStateCountTest::hugeCount_data()
         add("name bytes of a dock", BlobBuilder(widgetHead).int32(count & ~1), none);
         add("lines", soundHead().toolBarSection(count), BlobBuilder().line(0, 0).blob());
         add("short lines", soundHead().shortToolBarSection(count), BlobBuilder().line(0, 0).blob());
-        add("tool bars", BlobBuilder(line).line(0, count), BlobBuilder().toolBar(text("T")).blob());
+        add("tool bars", BlobBuilder(line).line(0, count), BlobBuilder().toolBar("T"_s).blob());
         add("short tool bars", BlobBuilder(shortLine).line(0, count),
-            BlobBuilder().shortToolBar(text("T")).blob());
+            BlobBuilder().shortToolBar("T"_s).blob());
         add("name bytes of a tool bar", BlobBuilder(line).line(0, 1).int32(count & ~1), none);
     }
     const BlobBuilder line = soundHead().toolBarSection(1).line(0, 1);
@@ -99,7 +99,7 @@ void QtStateCountTest::repeatedItemsBeyondMemory()
     const int itemCount = 4700;
     const int emptyLines = 12500;
     const QByteArray blob = soundHead().toolBarSection(emptyLines + 1).line(0, itemCount).blob() +
-                            BlobBuilder().toolBar(text("T")).blob().repeated(itemCount) +
+                            BlobBuilder().toolBar("T"_s).blob().repeated(itemCount) +
                             BlobBuilder().line(0, 0).blob().repeated(emptyLines);
     QtState state;
     QVERIFY(!state.read(blob));
@@ -107,7 +107,7 @@ void QtStateCountTest::repeatedItemsBeyondMemory()
     QCOMPARE(state.m_version, 0);
 }
 
-} // namespace Panorel::Test
+} // namespace Panorel::Tests
 
-QTEST_GUILESS_MAIN(Panorel::Test::QtStateCountTest)
+QTEST_GUILESS_MAIN(Panorel::Tests::QtStateCountTest)
 #include "QtStateCountTest.moc"

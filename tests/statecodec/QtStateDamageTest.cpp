@@ -11,7 +11,7 @@
 
 #include <numeric>
 
-namespace Panorel::Test {
+namespace Panorel::Tests {
 
 /**
  * Recorded blobs cut off anywhere, with any byte changed, left out or doubled: each is read or
@@ -96,10 +96,10 @@ void QtStateDamageTest::addBlobs()
             QTest::addRow("%s", blob.name.constData()) << blob.bytes;
     }
     QTest::addRow("example") << exampleBlob();
-    BlobBuilder odd = soundHead().shortToolBarSection(2).line(0, 1).shortToolBar(text("S"));
+    BlobBuilder odd = soundHead().shortToolBarSection(2).line(0, 1).shortToolBar("S"_s);
     odd.line(1, 2).shortToolBar(QString()).shortToolBar(QStringLiteral(""));
-    odd.dockSection(3).dock(0, 1, 1).tabs(3, 1, 1).widget(text("A")).dock(1, 1, 1).sequence(1, 1);
-    odd.nested().tabs(1, 1, 1).widget(text("B")).dock(2, 1, 1).sequence(1, 0).dockTail();
+    odd.dockSection(3).dock(0, 1, 1).tabs(3, 1, 1).widget("A"_s).dock(1, 1, 1).sequence(1, 1);
+    odd.nested().tabs(1, 1, 1).widget("B"_s).dock(2, 1, 1).sequence(1, 0).dockTail();
     QTest::addRow("short section first, tabs before sequences") << odd.blob();
 }
 
@@ -144,7 +144,7 @@ void QtStateDamageTest::byteLeftOutOrDoubled()
     QCOMPARE(comparison.tried(), blob.size() * 2);
 }
 
-} // namespace Panorel::Test
+} // namespace Panorel::Tests
 
-QTEST_GUILESS_MAIN(Panorel::Test::QtStateDamageTest)
+QTEST_GUILESS_MAIN(Panorel::Tests::QtStateDamageTest)
 #include "QtStateDamageTest.moc"

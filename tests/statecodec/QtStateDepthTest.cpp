@@ -10,7 +10,7 @@
 
 #include <utility>
 
-namespace Panorel::Test {
+namespace Panorel::Tests {
 
 /**
  * Blocks nested a million deep, and the same in other uses a little less deep to save time. The
@@ -199,9 +199,8 @@ void QtStateDepthTest::builtByHand()
 void QtStateDepthTest::deepAndWide()
 {
     const int depth = m_depth;
-    const QByteArray down =
-        BlobBuilder().sequence(1, 3).widget(text("L")).nested({1, 2, 3, 4}).blob();
-    const QByteArray up = BlobBuilder().widget(text("R")).blob();
+    const QByteArray down = BlobBuilder().sequence(1, 3).widget("L"_s).nested({1, 2, 3, 4}).blob();
+    const QByteArray up = BlobBuilder().widget("R"_s).blob();
     const QByteArray blob =
         around(down.repeated(depth) + BlobBuilder().sequence(1, 0).blob() + up.repeated(depth));
     QtState state;
@@ -210,7 +209,7 @@ void QtStateDepthTest::deepAndWide()
     QCOMPARE(difference(copy.write(), blob), QString());
 }
 
-} // namespace Panorel::Test
+} // namespace Panorel::Tests
 
-QTEST_GUILESS_MAIN(Panorel::Test::QtStateDepthTest)
+QTEST_GUILESS_MAIN(Panorel::Tests::QtStateDepthTest)
 #include "QtStateDepthTest.moc"

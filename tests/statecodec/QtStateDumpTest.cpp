@@ -10,7 +10,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-namespace Panorel::Test {
+namespace Panorel::Tests {
 
 /** Deliberate: dump() creates or empties the file, writes nothing and reports nothing. */
 class QtStateDumpTest : public QObject
@@ -31,7 +31,7 @@ private Q_SLOTS:
     void fileIsClosedAfterwards();
 
 private:
-    QString path(const char* name) const { return m_folder->filePath(text(name)); }
+    QString path(const char* name) const { return m_folder->filePath(QString::fromLatin1(name)); }
 
     QtState m_state;
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -68,7 +68,7 @@ void QtStateDumpTest::createsAnEmptyFile()
     m_state.dump(path("new"));
     QVERIFY(QFile::exists(path("new")));
     QCOMPARE(QFileInfo(path("new")).size(), qint64(0));
-    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList(text("new")));
+    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList("new"_s));
 }
 
 void QtStateDumpTest::emptiesAnExistingFile()
@@ -112,7 +112,7 @@ void QtStateDumpTest::unusablePath()
     m_state.dump(name.replace(QStringLiteral("%1"), m_folder->path()));
     QCOMPARE(QFileInfo(path("file")).size(), qint64(7));
     QCOMPARE(QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-             QStringList(text("file")));
+             QStringList("file"_s));
 }
 
 void QtStateDumpTest::readOnlyFileIsLeftAlone()
@@ -133,7 +133,7 @@ void QtStateDumpTest::fileIsClosedAfterwards()
     QVERIFY(QFile::remove(path("new")));
 }
 
-} // namespace Panorel::Test
+} // namespace Panorel::Tests
 
-QTEST_GUILESS_MAIN(Panorel::Test::QtStateDumpTest)
+QTEST_GUILESS_MAIN(Panorel::Tests::QtStateDumpTest)
 #include "QtStateDumpTest.moc"

@@ -8,7 +8,7 @@
 
 #include <QtTest>
 
-namespace Panorel::Test {
+namespace Panorel::Tests {
 
 /** Properties that hold of every value, tried on generated ones with fixed seeds. */
 class QtStateGeneratedTest : public QObject
@@ -170,7 +170,7 @@ void QtStateGeneratedTest::smallBlobs()
     QVERIFY(accepted > 0 || hasAddressSanitizer);
 }
 
-} // namespace Panorel::Test
+} // namespace Panorel::Tests
 
-QTEST_GUILESS_MAIN(Panorel::Test::QtStateGeneratedTest)
+QTEST_GUILESS_MAIN(Panorel::Tests::QtStateGeneratedTest)
 #include "QtStateGeneratedTest.moc"

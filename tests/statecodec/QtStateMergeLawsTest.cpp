@@ -9,7 +9,7 @@
 #include <functional>
 #include <vector>
 
-namespace Panorel::Test {
+namespace Panorel::Tests {
 
 /** What merging obeys whatever it is given, tried on generated values with fixed seeds. */
 class QtStateMergeLawsTest : public QObject
@@ -156,7 +156,7 @@ void QtStateMergeLawsTest::associativityFailsAroundANull()
     QCOMPARE(outer.m_toolBarAreaLayouts.size(), std::size_t(1));
 }
 
-} // namespace Panorel::Test
+} // namespace Panorel::Tests
 
-QTEST_GUILESS_MAIN(Panorel::Test::QtStateMergeLawsTest)
+QTEST_GUILESS_MAIN(Panorel::Tests::QtStateMergeLawsTest)
 #include "QtStateMergeLawsTest.moc"

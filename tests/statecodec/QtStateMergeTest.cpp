@@ -7,7 +7,7 @@
 
 #include <QtTest>
 
-namespace Panorel::Test {
+namespace Panorel::Tests {
 
 class QtStateMergeTest : public QObject
 {
@@ -41,18 +41,26 @@ namespace {
 QByteArray docks(const char* name, qint32 area = 0)
 {
     BlobBuilder section = BlobBuilder().dockSection(1).dock(area, 10, 20).sequence(1, 2);
-    section.widget(text(name)).nested().tabs(0, 1, 1).widget(text(name), 3).dockTail();
+    section.widget(QString::fromLatin1(name))
+        .nested()
+        .tabs(0, 1, 1)
+        .widget(QString::fromLatin1(name), 3)
+        .dockTail();
     return section.blob();
 }
 
 QByteArray toolBars(const char* name, qint32 area = 2)
 {
-    return BlobBuilder().toolBarSection(1).line(area, 1).toolBar(text(name)).blob();
+    return BlobBuilder().toolBarSection(1).line(area, 1).toolBar(QString::fromLatin1(name)).blob();
 }
 
 QByteArray shortToolBars(const char* name)
 {
-    return BlobBuilder().shortToolBarSection(1).line(3, 1).shortToolBar(text(name)).blob();
+    return BlobBuilder()
+        .shortToolBarSection(1)
+        .line(3, 1)
+        .shortToolBar(QString::fromLatin1(name))
+        .blob();
 }
 
 QByteArray head(int version)
@@ -99,7 +107,7 @@ void QtStateMergeTest::resultOwnsItsBlocks()
     QtState merged = QtState::merge(a, b);
     Block& block = merged.m_dockAreaLayouts.at(0).docks.at(0).block;
     QVERIFY(block.items.at(1).subBlock != a.m_dockAreaLayouts[0].docks[0].block.items[1].subBlock);
-    block.items[1].subBlock->items[0].objectName = text("changed");
+    block.items[1].subBlock->items[0].objectName = "changed"_s;
     merged.m_toolBarAreaLayouts.at(0).lines.clear();
     QCOMPARE(difference(a.write(), head(3) + docks("A")), QString());
     QCOMPARE(difference(b.write(), head(4) + toolBars("T")), QString());
@@ -211,7 +219,7 @@ void QtStateMergeTest::orderIsThatOfTheArguments()
              QString());
 }
 
-} // namespace Panorel::Test
+} // namespace Panorel::Tests
 
-QTEST_GUILESS_MAIN(Panorel::Test::QtStateMergeTest)
+QTEST_GUILESS_MAIN(Panorel::Tests::QtStateMergeTest)
 #include "QtStateMergeTest.moc"

@@ -7,7 +7,7 @@
 
 #include <QtTest>
 
-namespace Panorel::Test {
+namespace Panorel::Tests {
 
 /** Object names, read and written; null and empty ones are kept apart. */
 class QtStateNameTest : public QObject
@@ -113,7 +113,7 @@ void QtStateNameTest::comeBackAsTheyWere()
     QCOMPARE(difference(copy.write(), blob.blob()), QString());
 }
 
-} // namespace Panorel::Test
+} // namespace Panorel::Tests
 
-QTEST_GUILESS_MAIN(Panorel::Test::QtStateNameTest)
+QTEST_GUILESS_MAIN(Panorel::Tests::QtStateNameTest)
 #include "QtStateNameTest.moc"

@@ -9,7 +9,7 @@
 
 #include <limits>
 
-namespace Panorel::Test {
+namespace Panorel::Tests {
 
 /** What a value holds after read() succeeded. */
 class QtStateReadTest : public QObject
@@ -153,8 +153,8 @@ void QtStateReadTest::dockFields()
 {
     BlobBuilder blob = soundHead();
     blob.dockSection(1).dock(-7, -1, std::numeric_limits<qint32>::max());
-    blob.tabs(3, 1, 2).widget(text("A"), 0x80, {1, -2, 0x12345678, -2147483647 - 1});
-    blob.widget(text("B"), 0xFF, {5, 6, 7, 8}).dockTail(-5, 6, {-1, 0, 99, 1000000});
+    blob.tabs(3, 1, 2).widget("A"_s, 0x80, {1, -2, 0x12345678, -2147483647 - 1});
+    blob.widget("B"_s, 0xFF, {5, 6, 7, 8}).dockTail(-5, 6, {-1, 0, 99, 1000000});
     QtState state;
     QVERIFY(state.read(blob.blob()));
     const DockArea& area = state.m_dockAreaLayouts.at(0);
@@ -220,9 +220,9 @@ void QtStateReadTest::unvalidatedByte()
 {
     QFETCH(int, value);
     BlobBuilder blob = soundHead();
-    blob.dockSection(1).dock(0, 1, 1).sequence(value, 2).widget(text("A"), value);
+    blob.dockSection(1).dock(0, 1, 1).sequence(value, 2).widget("A"_s, value);
     blob.nested().tabs(0, value, 0).dockTail();
-    blob.toolBarSection(1).line(0, 1).toolBar(text("T"), value);
+    blob.toolBarSection(1).line(0, 1).toolBar("T"_s, value);
     QtState state;
     QVERIFY(state.read(blob.blob()));
     const Block& block = state.m_dockAreaLayouts.at(0).docks.at(0).block;
@@ -248,8 +248,8 @@ void QtStateReadTest::currentIndexOnlyAfterTabMarker()
 void QtStateReadTest::nestedBlock()
 {
     BlobBuilder block;
-    block.sequence(1, 3).widget(text("A")).nested({11, -12, 13, -14});
-    block.sequence(2, 1).widget(text("B"), 3, {1, 2, 3, 4}).widget(text("C"));
+    block.sequence(1, 3).widget("A"_s).nested({11, -12, 13, -14});
+    block.sequence(2, 1).widget("B"_s, 3, {1, 2, 3, 4}).widget("C"_s);
     QtState state;
     QVERIFY(state.read(blobAround(block)));
     const std::vector<DockItem>& items = state.m_dockAreaLayouts.at(0).docks.at(0).block.items;
@@ -271,8 +271,8 @@ void QtStateReadTest::nestedBlock()
 void QtStateReadTest::tabsInsideSequenceInsideTabs()
 {
     BlobBuilder block;
-    block.tabs(1, 1, 2).widget(text("A")).nested().sequence(2, 2);
-    block.nested().tabs(2, 1, 1).widget(text("B")).widget(text("C"));
+    block.tabs(1, 1, 2).widget("A"_s).nested().sequence(2, 2);
+    block.nested().tabs(2, 1, 1).widget("B"_s).widget("C"_s);
     QtState state;
     QVERIFY(state.read(blobAround(block)));
     const Block& outer = state.m_dockAreaLayouts.at(0).docks.at(0).block;
@@ -291,7 +291,7 @@ void QtStateReadTest::tabsInsideSequenceInsideTabs()
 void QtStateReadTest::extendedSectionTakesFourValues()
 {
     BlobBuilder blob = soundHead().toolBarSection(1).line(-3, 2);
-    blob.toolBar(text("X"), 3, {1, -2, 3, -4}).toolBar(text("Y"), 0, {5, 6, 7, 8});
+    blob.toolBar("X"_s, 3, {1, -2, 3, -4}).toolBar("Y"_s, 0, {5, 6, 7, 8});
     QtState state;
     QVERIFY(state.read(blob.blob()));
     const ToolBarArea& area = state.m_toolBarAreaLayouts.at(0);
@@ -309,7 +309,7 @@ void QtStateReadTest::extendedSectionTakesFourValues()
 void QtStateReadTest::shortSectionTakesThreeValues()
 {
     BlobBuilder blob = soundHead().shortToolBarSection(1).line(1, 2);
-    blob.shortToolBar(text("X"), 1, {1, -2, 3}).shortToolBar(text("Y"), 2, {4, 5, 6});
+    blob.shortToolBar("X"_s, 1, {1, -2, 3}).shortToolBar("Y"_s, 2, {4, 5, 6});
     QtState state;
     QVERIFY(state.read(blob.blob()));
     const ToolBarArea& area = state.m_toolBarAreaLayouts.at(0);
@@ -369,7 +369,7 @@ void QtStateReadTest::earlierContentIsGone()
     QCOMPARE(state.m_toolBarAreaLayouts.size(), std::size_t(1));
 }
 
-} // namespace Panorel::Test
+} // namespace Panorel::Tests
 
-QTEST_GUILESS_MAIN(Panorel::Test::QtStateReadTest)
+QTEST_GUILESS_MAIN(Panorel::Tests::QtStateReadTest)
 #include "QtStateReadTest.moc"

@@ -7,7 +7,7 @@
 
 #include <QtTest>
 
-namespace Panorel::Test {
+namespace Panorel::Tests {
 
 /** Blobs of real windows. Every file in tests/data/blobs, those of Qt 6 too, is a case. */
 class QtStateRecordedTest : public QObject
@@ -146,7 +146,7 @@ void QtStateRecordedTest::floatingTabGroupEndsTheReading()
     QVERIFY(state.m_toolBarAreaLayouts.empty());
 }
 
-} // namespace Panorel::Test
+} // namespace Panorel::Tests
 
-QTEST_GUILESS_MAIN(Panorel::Test::QtStateRecordedTest)
+QTEST_GUILESS_MAIN(Panorel::Tests::QtStateRecordedTest)
 #include "QtStateRecordedTest.moc"

@@ -9,7 +9,7 @@
 
 #include <functional>
 
-namespace Panorel::Test {
+namespace Panorel::Tests {
 
 /** What read() refuses, and what a refusal leaves in the value. */
 class QtStateRejectTest : public QObject
@@ -100,7 +100,7 @@ void QtStateRejectTest::markers_data()
                              {0xFC, body(BlobBuilder().int32(1).line(0, 0))}};
     const Bodies blocks = {{0xFA, body(BlobBuilder().int32(0).byte(1).int32(0))},
                            {0xFC, body(BlobBuilder().byte(1).int32(0))}};
-    const Bodies items = {{0xFB, body(BlobBuilder().name(text("A")).byte(1).ints({0, 0, 0, 0}))},
+    const Bodies items = {{0xFB, body(BlobBuilder().name("A"_s).byte(1).ints({0, 0, 0, 0}))},
                           {0xFC, body(BlobBuilder().ints({0, 0, 0, 0}).sequence(1, 0))}};
 
     const BlobBuilder record = soundHead().dockSection(1).dock(0, 1, 1);
@@ -119,7 +119,7 @@ void QtStateRejectTest::markers_data()
         {"nested block", BlobBuilder(record).sequence(1, 1).nested().blob(), blocks, tail},
         {"item", BlobBuilder(record).sequence(1, 1).blob(), items, tail},
         {"tab", BlobBuilder(record).tabs(0, 1, 1).blob(), items, tail},
-        {"second item", BlobBuilder(record).sequence(1, 2).widget(text("A")).blob(), items, tail},
+        {"second item", BlobBuilder(record).sequence(1, 2).widget("A"_s).blob(), items, tail},
         {"nested item", BlobBuilder(record).sequence(1, 1).nested().tabs(0, 1, 1).blob(), items,
          tail},
     };
@@ -223,8 +223,8 @@ void QtStateRejectTest::shortItemsWithTwoValuesAreMisread()
     const QByteArray rejected = soundHead()
                                     .shortToolBarSection(1)
                                     .line(0, 2)
-                                    .toolBar(text("X"), 1, {5, 6})
-                                    .toolBar(text("AB"), 1, {7, 8})
+                                    .toolBar("X"_s, 1, {5, 6})
+                                    .toolBar("AB"_s, 1, {7, 8})
                                     .blob();
     QtState state;
     QVERIFY(!state.read(rejected));
@@ -234,7 +234,7 @@ void QtStateRejectTest::shortItemsWithTwoValuesAreMisread()
     // name count goes to the first item, so its name is read as empty from the four zero bytes that
     // follow, and its first value from 0000 0900. Six more bytes make it long enough.
     BlobBuilder twisted = soundHead().shortToolBarSection(1).line(0, 2);
-    twisted.toolBar(text("X"), 1, {5, 6});
+    twisted.toolBar("X"_s, 1, {5, 6});
     twisted.int32(2).raw(QByteArray::fromHex("0000 00 00000000 09000000")).raw(QByteArray(6, '\0'));
     QVERIFY(state.read(twisted.blob()));
     const std::vector<ToolBarItem>& items = state.m_toolBarAreaLayouts.at(0).lines.at(0).items;
@@ -249,13 +249,13 @@ void QtStateRejectTest::shortItemsWithTwoValuesEndTooSoon()
 {
     QtState state;
     QVERIFY(!state.read(
-        soundHead().shortToolBarSection(1).line(0, 1).toolBar(text("X"), 1, {5, 6}).blob()));
+        soundHead().shortToolBarSection(1).line(0, 1).toolBar("X"_s, 1, {5, 6}).blob()));
+    QVERIFY(state.m_toolBarAreaLayouts.empty());
+    QVERIFY(
+        !state.read(soundHead().toolBarSection(1).line(0, 1).toolBar("X"_s, 1, {5, 6, 7}).blob()));
     QVERIFY(state.m_toolBarAreaLayouts.empty());
     QVERIFY(!state.read(
-        soundHead().toolBarSection(1).line(0, 1).toolBar(text("X"), 1, {5, 6, 7}).blob()));
-    QVERIFY(state.m_toolBarAreaLayouts.empty());
-    QVERIFY(!state.read(
-        soundHead().shortToolBarSection(1).line(0, 1).toolBar(text("X"), 1, {5, 6, 7, 8}).blob()));
+        soundHead().shortToolBarSection(1).line(0, 1).toolBar("X"_s, 1, {5, 6, 7, 8}).blob()));
     QCOMPARE(state.m_toolBarAreaLayouts.size(), std::size_t(1));
 }
 
@@ -276,17 +276,17 @@ void QtStateRejectTest::completedSectionsSurvive_data()
     QTest::addRow("line cut") << BlobBuilder().toolBarSection(1).int32(0).blob();
     QTest::addRow("second line missing") << BlobBuilder().toolBarSection(2).line(0, 0).blob();
     QTest::addRow("tool bar cut")
-        << BlobBuilder().toolBarSection(1).line(0, 1).toolBar(text("Y")).blob().chopped(1);
+        << BlobBuilder().toolBarSection(1).line(0, 1).toolBar("Y"_s).blob().chopped(1);
     QTest::addRow("second tool bar missing")
-        << BlobBuilder().shortToolBarSection(1).line(0, 2).shortToolBar(text("Y")).blob();
+        << BlobBuilder().shortToolBarSection(1).line(0, 2).shortToolBar("Y"_s).blob();
 }
 
 void QtStateRejectTest::completedSectionsSurvive()
 {
     QFETCH(QByteArray, broken);
     BlobBuilder sound = soundHead(42);
-    sound.toolBarSection(1).line(2, 1).toolBar(text("T"), 1, {1, 2, 3, 4});
-    sound.dockSection(1).dock(0, 5, 6).sequence(2, 1).widget(text("A")).dockTail();
+    sound.toolBarSection(1).line(2, 1).toolBar("T"_s, 1, {1, 2, 3, 4});
+    sound.dockSection(1).dock(0, 5, 6).sequence(2, 1).widget("A"_s).dockTail();
     QtState expected;
     QVERIFY(expected.read(sound.blob()));
     QtState state;
@@ -323,7 +323,7 @@ void QtStateRejectTest::millionLinesWithNothingBehind()
     QCOMPARE(state.m_versionMarker, 255);
 }
 
-} // namespace Panorel::Test
+} // namespace Panorel::Tests
 
-QTEST_GUILESS_MAIN(Panorel::Test::QtStateRejectTest)
+QTEST_GUILESS_MAIN(Panorel::Tests::QtStateRejectTest)
 #include "QtStateRejectTest.moc"

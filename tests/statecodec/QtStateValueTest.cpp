@@ -10,7 +10,7 @@
 #include <type_traits>
 #include <utility>
 
-namespace Panorel::Test {
+namespace Panorel::Tests {
 
 /** QtState and its parts as plain values: constants, beginnings, copies, moves. */
 class QtStateValueTest : public QObject
@@ -69,10 +69,10 @@ DockItem nestedItem()
 
 QByteArray fullBlob()
 {
-    BlobBuilder blob = soundHead(6).dockSection(2).dock(0, 1, 2).sequence(1, 2).widget(text("A"));
+    BlobBuilder blob = soundHead(6).dockSection(2).dock(0, 1, 2).sequence(1, 2).widget("A"_s);
     blob.nested().tabs(1, 2, 1).widget(QString()).dock(1, 3, 4).tabs(1, 1, 0).dockTail();
     blob.dockSection(0).dockTail();
-    blob.toolBarSection(2).line(0, 1).toolBar(text("T"), 1, {1, 2, 3, 4}).line(1, 0);
+    blob.toolBarSection(2).line(0, 1).toolBar("T"_s, 1, {1, 2, 3, 4}).line(1, 0);
     return blob.shortToolBarSection(0).blob();
 }
 
@@ -219,7 +219,7 @@ void QtStateValueTest::copyIsDeep()
     Block& block = copy.m_dockAreaLayouts.at(0).docks.at(0).block;
     QVERIFY(block.items.at(1).subBlock !=
             state.m_dockAreaLayouts[0].docks[0].block.items[1].subBlock);
-    block.items[1].subBlock->items.at(0).objectName = text("changed");
+    block.items[1].subBlock->items.at(0).objectName = "changed"_s;
     copy.m_toolBarAreaLayouts.at(0).lines.at(0).items.at(0).shown = 9;
     copy.m_version = 1;
     QCOMPARE(difference(state.write(), bytes), QString());
@@ -328,7 +328,7 @@ void QtStateValueTest::partsAreAssignable()
     QCOMPARE(difference(other.m_toolBarAreaLayouts[1], toolBars), QString());
 }
 
-} // namespace Panorel::Test
+} // namespace Panorel::Tests
 
-QTEST_GUILESS_MAIN(Panorel::Test::QtStateValueTest)
+QTEST_GUILESS_MAIN(Panorel::Tests::QtStateValueTest)
 #include "QtStateValueTest.moc"

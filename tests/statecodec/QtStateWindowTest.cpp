@@ -8,7 +8,7 @@
 #include <QToolBar>
 #include <QtTest>
 
-namespace Panorel::Test {
+namespace Panorel::Tests {
 
 /** States of windows that live while the test runs, read and given back to them. */
 class QtStateWindowTest : public QObject
@@ -123,7 +123,7 @@ void QtStateWindowTest::emptyFirstIsRefusedByTheWindow()
     QCOMPARE(difference(window.saveState(), before), QString());
 }
 
-} // namespace Panorel::Test
+} // namespace Panorel::Tests
 
-QTEST_MAIN(Panorel::Test::QtStateWindowTest)
+QTEST_MAIN(Panorel::Tests::QtStateWindowTest)
 #include "QtStateWindowTest.moc"

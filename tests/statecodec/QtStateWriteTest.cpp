@@ -10,7 +10,7 @@
 #include <limits>
 #include <utility>
 
-namespace Panorel::Test {
+namespace Panorel::Tests {
 
 /** The bytes that write() gives for values built by hand and for values that were read. */
 class QtStateWriteTest : public QObject
@@ -48,7 +48,7 @@ namespace {
 DockItem dockItem(const char* name, unsigned char flags = 1)
 {
     DockItem item;
-    item.objectName = text(name);
+    item.objectName = QString::fromLatin1(name);
     item.flags = flags;
     return item;
 }
@@ -73,7 +73,7 @@ QByteArray around(const BlobBuilder& block)
 ToolBarItem toolBarItem(const char* name, int v0, int v1, int v2, int v3)
 {
     ToolBarItem item;
-    item.objectName = text(name);
+    item.objectName = QString::fromLatin1(name);
     item.shown = 1;
     const int values[4] = {v0, v1, v2, v3};
     for (int i = 0; i < 4; ++i)
@@ -170,7 +170,7 @@ void QtStateWriteTest::tabsHaveCurrentIndex()
     block.items.push_back(dockItem("A", 0xC3));
     block.items.push_back(dockItem("B", 0));
     const BlobBuilder expected =
-        BlobBuilder().tabs(-7, 0xFE, 2).widget(text("A"), 0xC3).widget(text("B"), 0);
+        BlobBuilder().tabs(-7, 0xFE, 2).widget("A"_s, 0xC3).widget("B"_s, 0);
     QCOMPARE(difference(state.write(), around(expected)), QString());
 }
 
@@ -193,7 +193,7 @@ void QtStateWriteTest::dockItemOmitsSubBlock()
     QtState state;
     DockItem& item = addBlock(state).items.emplace_back(dockItem("A"));
     item.subBlock = std::make_unique<Block>();
-    QCOMPARE(difference(state.write(), around(BlobBuilder().sequence(0, 1).widget(text("A")))),
+    QCOMPARE(difference(state.write(), around(BlobBuilder().sequence(0, 1).widget("A"_s))),
              QString());
 }
 
@@ -208,11 +208,11 @@ void QtStateWriteTest::nestedItemWithoutBlockIsAnEmptySequence()
 void QtStateWriteTest::deeperBlocks()
 {
     BlobBuilder block;
-    block.sequence(1, 4).widget(text("A"));
-    block.nested({1, 2, 3, 4}).tabs(1, 2, 3).widget(text("B"));
-    block.nested({5, 6, 7, 8}).sequence(1, 2).widget(text("C")).nested().tabs(-1, 1, 0);
-    block.widget(text("D")); // ends the tabs
-    block.nested().sequence(2, 0).widget(text("E"), 2, {9, 10, 11, 12});
+    block.sequence(1, 4).widget("A"_s);
+    block.nested({1, 2, 3, 4}).tabs(1, 2, 3).widget("B"_s);
+    block.nested({5, 6, 7, 8}).sequence(1, 2).widget("C"_s).nested().tabs(-1, 1, 0);
+    block.widget("D"_s); // ends the tabs
+    block.nested().sequence(2, 0).widget("E"_s, 2, {9, 10, 11, 12});
     BlobBuilder blob = soundHead(9).dockSection(1).dock(3, 4, 5);
     blob.raw(block.blob()).dockTail(6, 7, {8, 9, 10, 11});
     QtState state;
@@ -228,7 +228,7 @@ void QtStateWriteTest::shortSectionWritesThreeValues()
     line.items.push_back(toolBarItem("T", 1, -2, 3, 4));
     line.items.push_back(toolBarItem("U", 5, 6, 7, 8));
     BlobBuilder expected = BlobBuilder().head(-1, -1).shortToolBarSection(1).line(-1, 2);
-    expected.toolBar(text("T"), 1, {1, -2, 3}).toolBar(text("U"), 1, {5, 6, 7});
+    expected.toolBar("T"_s, 1, {1, -2, 3}).toolBar("U"_s, 1, {5, 6, 7});
     QCOMPARE(difference(state.write(), expected.blob()), QString());
 }
 
@@ -240,7 +240,7 @@ void QtStateWriteTest::extendedSectionWritesFourValues()
     area.lines.emplace_back().items.push_back(toolBarItem("T", 1, -2, 3, 4));
     area.lines.emplace_back().area = 3;
     BlobBuilder expected = BlobBuilder().head(-1, -1).toolBarSection(2).line(0, 1);
-    expected.toolBar(text("T"), 1, {1, -2, 3, 4}).line(3, 0);
+    expected.toolBar("T"_s, 1, {1, -2, 3, 4}).line(3, 0);
     QCOMPARE(difference(state.write(), expected.blob()), QString());
 }
 
@@ -254,24 +254,17 @@ void QtStateWriteTest::yCoordinatesAreIgnored()
         value.setY(77);
     area.lines.emplace_back().items.push_back(item);
     BlobBuilder expected = BlobBuilder().head(-1, -1).toolBarSection(1).line(0, 1);
-    QCOMPARE(difference(state.write(), expected.toolBar(text("T"), 1, {1, 2, 3, 4}).blob()),
-             QString());
+    QCOMPARE(difference(state.write(), expected.toolBar("T"_s, 1, {1, 2, 3, 4}).blob()), QString());
 }
 
 void QtStateWriteTest::dockAreasComeFirst()
 {
     const QByteArray shortBars =
-        BlobBuilder().shortToolBarSection(1).line(1, 1).shortToolBar(text("S")).blob();
-    const QByteArray longBars =
-        BlobBuilder().toolBarSection(1).line(2, 1).toolBar(text("L")).blob();
+        BlobBuilder().shortToolBarSection(1).line(1, 1).shortToolBar("S"_s).blob();
+    const QByteArray longBars = BlobBuilder().toolBarSection(1).line(2, 1).toolBar("L"_s).blob();
     const QByteArray firstDocks = BlobBuilder().dockSection(0).dockTail(1, 1).blob();
-    const QByteArray secondDocks = BlobBuilder()
-                                       .dockSection(1)
-                                       .dock(1, 2, 3)
-                                       .sequence(1, 1)
-                                       .widget(text("A"))
-                                       .dockTail()
-                                       .blob();
+    const QByteArray secondDocks =
+        BlobBuilder().dockSection(1).dock(1, 2, 3).sequence(1, 1).widget("A"_s).dockTail().blob();
     const QByteArray head = soundHead().blob();
     QtState state;
     QVERIFY(state.read(head + shortBars + firstDocks + longBars + secondDocks));
@@ -288,7 +281,7 @@ void QtStateWriteTest::writingChangesNothing()
     QCOMPARE(difference(state, before), QString());
 }
 
-} // namespace Panorel::Test
+} // namespace Panorel::Tests
 
-QTEST_GUILESS_MAIN(Panorel::Test::QtStateWriteTest)
+QTEST_GUILESS_MAIN(Panorel::Tests::QtStateWriteTest)
 #include "QtStateWriteTest.moc"

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/Text.h"
+
 #include <QByteArray>
 #include <QString>
 
 #include <initializer_list>
 
-namespace Panorel::Test {
+namespace Panorel::Tests {
 
 /**
  * Puts a window-state blob together field by field, well-formed or not.
@@ -136,10 +138,4 @@ inline QByteArray exampleBlob()
                                "00000002 0054 01 00000000 FFFFFFFF 00000000 00000000");
 }
 
-/** The text of a name whose null or empty form matters. */
-inline QString text(const char* latin1)
-{
-    return QString::fromLatin1(latin1);
-}
-
-} // namespace Panorel::Test
+} // namespace Panorel::Tests

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <initializer_list>
 
-namespace Panorel::Test {
+namespace Panorel::Tests {
 
 using DockArea = QtState::DockAreaLayout;
 using Dock = DockArea::Dock;
@@ -177,4 +177,4 @@ inline QString difference(const QtState& actual, const QtState& expected)
                                    expected.m_toolBarAreaLayouts, toolBars)});
 }
 
-} // namespace Panorel::Test
+} // namespace Panorel::Tests

@@ -7,7 +7,7 @@
 
 #include <utility>
 
-namespace Panorel::Test {
+namespace Panorel::Tests {
 
 /**
  * Catches every Qt message between start() and finish(), so that a test can demand silence:
@@ -43,4 +43,4 @@ private:
     QtMessageHandler m_previous = nullptr;
 };
 
-} // namespace Panorel::Test
+} // namespace Panorel::Tests

@@ -9,7 +9,7 @@
 
 #include <vector>
 
-namespace Panorel::Test {
+namespace Panorel::Tests {
 
 struct RecordedBlob
 {
@@ -31,4 +31,4 @@ inline std::vector<RecordedBlob> recordedBlobs(const QString& folder)
     return blobs;
 }
 
-} // namespace Panorel::Test
+} // namespace Panorel::Tests

@@ -7,7 +7,7 @@
 
 #include <utility>
 
-namespace Panorel::Test {
+namespace Panorel::Tests {
 
 enum class Records {
     /** Each record holds the items of those before it in its section, as QtState::read() gives. */
@@ -216,4 +216,4 @@ inline bool hasSingleRecords(const QtState& state)
                        singleLine);
 }
 
-} // namespace Panorel::Test
+} // namespace Panorel::Tests

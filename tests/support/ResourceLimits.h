@@ -9,7 +9,7 @@
 #include <sys/resource.h>
 #endif
 
-namespace Panorel::Test {
+namespace Panorel::Tests {
 
 #if defined(__SANITIZE_ADDRESS__)
 constexpr bool hasAddressSanitizer = true;
@@ -64,4 +64,4 @@ inline void forbidCoreDumps()
 #endif
 }
 
-} // namespace Panorel::Test
+} // namespace Panorel::Tests

@@ -7,7 +7,7 @@
 
 #include <limits>
 
-namespace Panorel::Test {
+namespace Panorel::Tests {
 
 /**
  * Makes values as read() could have made them from single records, each seed always the same one:
@@ -134,4 +134,4 @@ private:
     QRandomGenerator m_random;
 };
 
-} // namespace Panorel::Test
+} // namespace Panorel::Tests

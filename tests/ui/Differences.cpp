@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "ui/Differences.h"
 
-#include "ui/Literals.h"
+#include "support/Text.h"
 
 #include <QMetaProperty>
 #include <QWidget>
 
-namespace Panorel::UiTests {
+namespace Panorel::Tests {
 
 QStringList differences(const QObject& object, const QObject& plain)
 {
@@ -35,4 +35,4 @@ QStringList widgetDifferences(const QWidget& widget, const QWidget& plain)
     return names;
 }
 
-} // namespace Panorel::UiTests
+} // namespace Panorel::Tests

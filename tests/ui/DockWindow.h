@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ui/Literals.h"
+#include "support/Text.h"
 
 #include <panorel/IManagable.h>
 
 #include <QDockWidget>
 #include <QMainWindow>
 
-namespace Panorel::UiTests {
+namespace Panorel::Tests {
 
 /** A main window that manages itself, with one dock widget, on the left at first. */
 class DockWindow : public QMainWindow, public IManagable
@@ -36,4 +36,4 @@ private:
     QDockWidget* m_dock = new QDockWidget(this);
 };
 
-} // namespace Panorel::UiTests
+} // namespace Panorel::Tests

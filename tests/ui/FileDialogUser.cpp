@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/FileDialogUser.h"
 
-#include "ui/Literals.h"
+#include "support/Text.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -12,7 +12,7 @@
 
 #include <utility>
 
-namespace Panorel::UiTests {
+namespace Panorel::Tests {
 
 namespace {
 
@@ -81,4 +81,4 @@ void FileDialogUser::cancel(QFileDialog& dialog)
     QTest::keyClick(&dialog, Qt::Key_Escape);
 }
 
-} // namespace Panorel::UiTests
+} // namespace Panorel::Tests

@@ -8,7 +8,7 @@
 
 class QFileDialog;
 
-namespace Panorel::UiTests {
+namespace Panorel::Tests {
 
 /**
  * Uses the next file dialog while the code that opened it waits for its end: hands the dialog over
@@ -45,4 +45,4 @@ private:
     QTimer m_timer;
 };
 
-} // namespace Panorel::UiTests
+} // namespace Panorel::Tests

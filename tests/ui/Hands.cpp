@@ -8,7 +8,7 @@
 #include <QTest>
 #include <QWindow>
 
-namespace Panorel::UiTests::Hands {
+namespace Panorel::Tests::Hands {
 
 namespace {
 
@@ -72,4 +72,4 @@ bool openSubMenu(QMenu& menu, QMenu& subMenu)
            QTest::qWaitForWindowExposed(&subMenu);
 }
 
-} // namespace Panorel::UiTests::Hands
+} // namespace Panorel::Tests::Hands

@@ -10,7 +10,7 @@ class QMenu;
 class QMenuBar;
 class QWidget;
 
-namespace Panorel::UiTests {
+namespace Panorel::Tests {
 
 /**
  * A user's hands: events go to windows, as the windowing system's do, so that Qt decides itself
@@ -38,4 +38,4 @@ bool openSubMenu(QMenu& menu, QMenu& subMenu);
 
 } // namespace Hands
 
-} // namespace Panorel::UiTests
+} // namespace Panorel::Tests

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "support/Text.h"
 #include "ui/DockWindow.h"
 #include "ui/Hands.h"
-#include "ui/Literals.h"
 #include "ui/MenuReading.h"
 #include "ui/SignalLines.h"
 
@@ -14,7 +14,7 @@
 #include <QtTest>
 
 using namespace Panorel;
-using namespace Panorel::UiTests;
+using namespace Panorel::Tests;
 
 /** A user opens the menu and chooses, saves and deletes, with the mouse and with the keyboard. */
 class MenuActionTest : public QObject
@@ -63,7 +63,7 @@ private:
 void MenuActionTest::init()
 {
     m_window = std::make_unique<DockWindow>();
-    m_manager = std::make_unique<Manager>(list({"G"}), false);
+    m_manager = std::make_unique<Manager>(lines({"G"}), false);
     m_manager->registerManagable(*m_window);
     QVERIFY(m_manager->saveCurrentViewAs("left"_s));
     m_window->moveDock(Qt::RightDockWidgetArea);
@@ -123,8 +123,8 @@ void MenuActionTest::chooseWithTheMouse()
 {
     QVERIFY(Hands::open(*m_menu));
     Hands::click(*m_menu, viewEntries(*m_menu).at(1));
-    QCOMPARE(m_signals->take(), list({"view Right"}));
-    QCOMPARE(views(), list({"left", "* Right"}));
+    QCOMPARE(m_signals->take(), lines({"view Right"}));
+    QCOMPARE(views(), lines({"left", "* Right"}));
     QVERIFY(!m_menu->isVisible());
     QVERIFY(Hands::open(*m_menu));
     Hands::click(*m_menu, viewEntries(*m_menu).at(0));
@@ -138,9 +138,9 @@ void MenuActionTest::chooseWithTheKeyboard()
     Hands::press(Qt::Key_Down);
     Hands::press(Qt::Key_Down);
     Hands::press(Qt::Key_Return);
-    QCOMPARE(m_signals->take(), list({"view Right"}));
+    QCOMPARE(m_signals->take(), lines({"view Right"}));
     QCOMPARE(m_window->dockArea(), Qt::RightDockWidgetArea);
-    QCOMPARE(views(), list({"left", "* Right"}));
+    QCOMPARE(views(), lines({"left", "* Right"}));
     QVERIFY(!m_menu->isVisible());
 }
 
@@ -149,7 +149,7 @@ void MenuActionTest::chooseInTheMenuBar()
     Hands::click(*m_window->menuBar(), *m_menu);
     QVERIFY(QTest::qWaitForWindowExposed(m_menu));
     Hands::click(*m_menu, viewEntries(*m_menu).at(1));
-    QCOMPARE(m_signals->take(), list({"view Right"}));
+    QCOMPARE(m_signals->take(), lines({"view Right"}));
     QVERIFY(!m_menu->isVisible());
 }
 
@@ -158,9 +158,9 @@ void MenuActionTest::chooseTheCheckedView()
     // An exclusive group keeps the mark on a checked entry, and tells of the choice all the same.
     QVERIFY(Hands::open(*m_menu));
     Hands::click(*m_menu, viewEntries(*m_menu).at(0));
-    QCOMPARE(m_signals->take(), list({"view left"}));
+    QCOMPARE(m_signals->take(), lines({"view left"}));
     QCOMPARE(m_window->dockArea(), Qt::LeftDockWidgetArea);
-    QCOMPARE(views(), list({"* left", "Right"}));
+    QCOMPARE(views(), lines({"* left", "Right"}));
 }
 
 void MenuActionTest::chosenViewIsCheckedThoughItIsGone()
@@ -172,7 +172,7 @@ void MenuActionTest::chosenViewIsCheckedThoughItIsGone()
     Hands::click(*m_menu, viewEntries(*m_menu).at(1));
     QCOMPARE(m_signals->take(), QStringList());
     QCOMPARE(m_manager->activeView(), "left"_s);
-    QCOMPARE(views(), list({"left", "* Right"}));
+    QCOMPARE(views(), lines({"left", "* Right"}));
 }
 
 void MenuActionTest::namelessViewCannotBeChosen()
@@ -183,7 +183,7 @@ void MenuActionTest::namelessViewCannotBeChosen()
     Hands::click(*m_menu, viewEntries(*m_menu).at(2));
     QCOMPARE(m_signals->take(), QStringList());
     QCOMPARE(m_manager->activeView(), "left"_s);
-    QCOMPARE(views(), list({"left", "Right", "* "}));
+    QCOMPARE(views(), lines({"left", "Right", "* "}));
 }
 
 void MenuActionTest::saveAsNewName_data()
@@ -226,7 +226,7 @@ void MenuActionTest::saveAsWithTheMouse()
     Hands::click(*nameEdit(*m_menu));
     Hands::type("Bottom"_s);
     Hands::press(Qt::Key_Return);
-    QCOMPARE(m_manager->views(), list({"left", "Right", "Bottom"}));
+    QCOMPARE(m_manager->views(), lines({"left", "Right", "Bottom"}));
     QVERIFY(m_manager->activateView("left"_s));
     QCOMPARE(m_window->dockArea(), Qt::LeftDockWidgetArea);
     QVERIFY(m_manager->activateView("Bottom"_s));
@@ -261,10 +261,10 @@ void MenuActionTest::saveAsNothing()
 {
     QVERIFY(openNameEditWithKeys());
     Hands::press(Qt::Key_Return);
-    QCOMPARE(m_signals->take(), list({"modified", "view "}));
-    QCOMPARE(m_manager->views(), list({"left", "Right", ""}));
-    QCOMPARE(views(), list({"left", "Right", ""}));
-    QCOMPARE(entries(*deleteMenu(*m_menu)), list({"", "Right", "left"}));
+    QCOMPARE(m_signals->take(), lines({"modified", "view "}));
+    QCOMPARE(m_manager->views(), lines({"left", "Right", ""}));
+    QCOMPARE(views(), lines({"left", "Right", ""}));
+    QCOMPARE(entries(*deleteMenu(*m_menu)), lines({"", "Right", "left"}));
     QVERIFY(!m_menu->isVisible());
 }
 
@@ -274,7 +274,7 @@ void MenuActionTest::saveAsExistingName()
     QVERIFY(openNameEditWithKeys());
     Hands::type("left"_s);
     Hands::press(Qt::Key_Return);
-    QCOMPARE(m_signals->take(), list({"view left"}));
+    QCOMPARE(m_signals->take(), lines({"view left"}));
     QVERIFY(!m_menu->isVisible());
     m_window->moveDock(Qt::TopDockWidgetArea);
     QVERIFY(m_manager->activateView("left"_s));
@@ -299,8 +299,8 @@ void MenuActionTest::saveOverWithTheKeyboard()
     QVERIFY(openWithKeys(saveAsMenu(*m_menu)));
     Hands::press(Qt::Key_Down);
     Hands::press(Qt::Key_Return);
-    QCOMPARE(m_signals->take(), list({"view Right"}));
-    QCOMPARE(views(), list({"left", "* Right"}));
+    QCOMPARE(m_signals->take(), lines({"view Right"}));
+    QCOMPARE(views(), lines({"left", "* Right"}));
     QVERIFY(!m_menu->isVisible());
 }
 
@@ -308,7 +308,7 @@ void MenuActionTest::saveOverWithTheMouse()
 {
     QVERIFY(openWithMouse(saveAsMenu(*m_menu)));
     Hands::click(*saveAsMenu(*m_menu), entry(saveAsMenu(*m_menu), "left"_s));
-    QCOMPARE(m_signals->take(), list({"view left"}));
+    QCOMPARE(m_signals->take(), lines({"view left"}));
     m_window->moveDock(Qt::TopDockWidgetArea);
     QVERIFY(m_manager->activateView("left"_s));
     QCOMPARE(m_window->dockArea(), Qt::RightDockWidgetArea);
@@ -320,8 +320,8 @@ void MenuActionTest::deleteWithTheKeyboard()
     const QPointer<QAction> sent = entry(deleteMenu(*m_menu), "Right"_s);
     QVERIFY(openWithKeys(deleteMenu(*m_menu)));
     Hands::press(Qt::Key_Return);
-    QCOMPARE(m_signals->take(), list({"modified"}));
-    QCOMPARE(views(), list({"* left"}));
+    QCOMPARE(m_signals->take(), lines({"modified"}));
+    QCOMPARE(views(), lines({"* left"}));
     QVERIFY(sent.isNull());
     QVERIFY(!m_menu->isVisible());
 }
@@ -331,8 +331,8 @@ void MenuActionTest::deleteWithTheMouse()
     const QPointer<QAction> sent = entry(deleteMenu(*m_menu), "Right"_s);
     QVERIFY(openWithMouse(deleteMenu(*m_menu)));
     Hands::click(*deleteMenu(*m_menu), sent);
-    QCOMPARE(m_signals->take(), list({"modified"}));
-    QCOMPARE(views(), list({"* left"}));
+    QCOMPARE(m_signals->take(), lines({"modified"}));
+    QCOMPARE(views(), lines({"* left"}));
     QVERIFY(sent.isNull());
     QVERIFY(!m_menu->isVisible());
 }
@@ -341,21 +341,21 @@ void MenuActionTest::deleteTheCheckedView()
 {
     QVERIFY(openWithMouse(deleteMenu(*m_menu)));
     Hands::click(*deleteMenu(*m_menu), entry(deleteMenu(*m_menu), "left"_s));
-    QCOMPARE(m_signals->take(), list({"view ", "modified"}));
+    QCOMPARE(m_signals->take(), lines({"view ", "modified"}));
     QVERIFY(m_manager->activeView().isNull());
-    QCOMPARE(views(), list({"Right"}));
+    QCOMPARE(views(), lines({"Right"}));
     // The layout on the screen stays.
     QCOMPARE(m_window->dockArea(), Qt::RightDockWidgetArea);
 }
 
 void MenuActionTest::deleteTheLastView()
 {
-    for (const QString& name : list({"left", "Right"})) {
+    for (const QString& name : lines({"left", "Right"})) {
         QVERIFY(openWithMouse(deleteMenu(*m_menu)));
         Hands::click(*deleteMenu(*m_menu), entry(deleteMenu(*m_menu), name));
     }
     QCOMPARE(views(), QStringList());
-    QCOMPARE(entries(*saveAsMenu(*m_menu)), list({"[edit]"}));
+    QCOMPARE(entries(*saveAsMenu(*m_menu)), lines({"[edit]"}));
     QCOMPARE(entries(*deleteMenu(*m_menu)), QStringList());
 }
 
@@ -366,10 +366,10 @@ void MenuActionTest::saveBySlot_data()
 
     QTest::newRow("null") << QString() << QStringList();
     QTest::newRow("empty") << ""_s << QStringList();
-    QTest::newRow("new") << "new"_s << list({"modified", "view new"});
-    QTest::newRow("existing") << "Right"_s << list({"view Right"});
-    QTest::newRow("blanks") << "  "_s << list({"modified", "view   "});
-    QTest::newRow("reserved word") << "__current__"_s << list({"modified", "view __current__"});
+    QTest::newRow("new") << "new"_s << lines({"modified", "view new"});
+    QTest::newRow("existing") << "Right"_s << lines({"view Right"});
+    QTest::newRow("blanks") << "  "_s << lines({"modified", "view   "});
+    QTest::newRow("reserved word") << "__current__"_s << lines({"modified", "view __current__"});
 }
 
 void MenuActionTest::saveBySlot()

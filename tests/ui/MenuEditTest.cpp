@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "MenuEdit.h"
 
+#include "support/Text.h"
 #include "ui/Differences.h"
 #include "ui/Hands.h"
-#include "ui/Literals.h"
 
 #include <QMetaMethod>
 #include <QPointer>
@@ -11,7 +11,7 @@
 #include <QtTest>
 
 using namespace Panorel;
-using namespace Panorel::UiTests;
+using namespace Panorel::Tests;
 
 Q_DECLARE_METATYPE(Qt::KeyboardModifiers)
 
@@ -118,7 +118,7 @@ void MenuEditTest::clearedBeforeTheSignal()
     QStringList texts;
     connect(&edit, &MenuEdit::inputAccepted, &edit, [&] { texts.append(edit.text()); });
     QTest::keyClick(&edit, Qt::Key_Return);
-    QCOMPARE(texts, list({""}));
+    QCOMPARE(texts, lines({""}));
 }
 
 void MenuEditTest::plainHandlingOfReturnIsLeftOut()

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "support/Text.h"
 #include "ui/FileDialogUser.h"
 #include "ui/Hands.h"
-#include "ui/Literals.h"
 #include "ui/MenuReading.h"
 #include "ui/SignalLines.h"
 
@@ -15,7 +15,7 @@
 #include <QtTest>
 
 using namespace Panorel;
-using namespace Panorel::UiTests;
+using namespace Panorel::Tests;
 
 /** Export, import, and import with merge, through the file dialogs to the end, without a word. */
 class MenuFileTest : public QObject
@@ -128,7 +128,7 @@ void MenuFileTest::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(m_folder->isValid());
-    m_manager = std::make_unique<Manager>(list({"G"}), false);
+    m_manager = std::make_unique<Manager>(lines({"G"}), false);
     QVERIFY(m_manager->saveCurrentViewAs("own"_s));
     QVERIFY(m_manager->createView("n"_s));
     m_menu = std::make_unique<Menu>(m_manager.get(), true, nullptr);
@@ -198,7 +198,7 @@ void MenuFileTest::dialog()
         FileDialogUser::cancel(dialog);
         QCOMPARE(dialog.windowTitle(), caption);
         QCOMPARE(dialog.parentWidget(), m_menu.get());
-        QCOMPARE(dialog.nameFilters(), list({"View File (*.views)", "All Files (*.*)"}));
+        QCOMPARE(dialog.nameFilters(), lines({"View File (*.views)", "All Files (*.*)"}));
         QCOMPARE(dialog.selectedNameFilter(), "View File (*.views)"_s);
         QCOMPARE(dialog.options(), QFileDialog::Options());
         QCOMPARE(dialog.defaultSuffix(), QString());
@@ -224,7 +224,7 @@ void MenuFileTest::cancelled()
     m_manager->registerManagable(counter);
     QVERIFY(use(entryText.constData(), &FileDialogUser::cancel));
     QCOMPARE(m_signals->take(), QStringList());
-    QCOMPARE(m_manager->views(), list({"own", "n"}));
+    QCOMPARE(m_manager->views(), lines({"own", "n"}));
     QCOMPARE(counter.asked, 0);
 }
 
@@ -321,19 +321,19 @@ void MenuFileTest::imported_data()
 
     const QByteArray import = "Import ...";
     const QByteArray merge = "Import & Merge ...";
-    QTest::newRow("replaced") << import << documentWith("x") << list({"own", "x"}) << QString();
-    QTest::newRow("merged") << merge << documentWith("x") << list({"own", "n", "x"}) << "own"_s;
+    QTest::newRow("replaced") << import << documentWith("x") << lines({"own", "x"}) << QString();
+    QTest::newRow("merged") << merge << documentWith("x") << lines({"own", "n", "x"}) << "own"_s;
     // A document of another version counts as read.
     const QByteArray other = documentWith("x").replace("1.1.0", "1.1.1");
     QTest::newRow("replaced by nothing") << import << other << QStringList() << QString();
-    QTest::newRow("merged with nothing") << merge << other << list({"own", "n"}) << "own"_s;
+    QTest::newRow("merged with nothing") << merge << other << lines({"own", "n"}) << "own"_s;
     // Line ends are the text mode's to read.
     QByteArray lineEnds = documentWith("x");
     lineEnds.replace("\n", "\r\n");
-    QTest::newRow("CR LF") << import << lineEnds << list({"own", "x"}) << QString();
+    QTest::newRow("CR LF") << import << lineEnds << lines({"own", "x"}) << QString();
     const QByteArray marked =
         documentWith("x").replace("<View Name=\"x\"", "<View Active=\"1\" Name=\"x\"");
-    QTest::newRow("marked") << import << marked << list({"own", "x"}) << "x"_s;
+    QTest::newRow("marked") << import << marked << lines({"own", "x"}) << "x"_s;
 }
 
 void MenuFileTest::imported()
@@ -372,8 +372,8 @@ void MenuFileTest::importedInvalid()
 
     QVERIFY(choose(entryText.constData(), fileWith(document)));
     QCOMPARE(m_signals->take(), QStringList());
-    QCOMPARE(m_manager->views(), list({"own", "n"}));
-    QCOMPARE(entries(*m_menu).mid(0, 2), list({"* own", "n"}));
+    QCOMPARE(m_manager->views(), lines({"own", "n"}));
+    QCOMPARE(entries(*m_menu).mid(0, 2), lines({"* own", "n"}));
 }
 
 void MenuFileTest::importedFromNoFile_data()
@@ -396,7 +396,7 @@ void MenuFileTest::importedFromNoFile()
     }));
     QVERIFY(!QFile::exists(file));
     QCOMPARE(m_signals->take(), QStringList());
-    QCOMPARE(m_manager->views(), list({"own", "n"}));
+    QCOMPARE(m_manager->views(), lines({"own", "n"}));
 }
 
 void MenuFileTest::importedAgain()
@@ -405,7 +405,7 @@ void MenuFileTest::importedAgain()
     m_manager->clear();
     QCOMPARE(m_manager->views(), QStringList());
     QVERIFY(choose("Import ...", path("out.views")));
-    QCOMPARE(m_manager->views(), list({"own", "n"}));
+    QCOMPARE(m_manager->views(), lines({"own", "n"}));
     // No view is marked in the file.
     QCOMPARE(m_manager->activeView(), QString());
 }

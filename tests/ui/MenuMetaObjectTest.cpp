@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/Literals.h"
+#include "support/Text.h"
 #include "ui/MenuReading.h"
 
 #include <panorel/Manager.h>
@@ -12,7 +12,7 @@
 #include <type_traits>
 
 using namespace Panorel;
-using namespace Panorel::UiTests;
+using namespace Panorel::Tests;
 
 static_assert(std::is_constructible_v<Menu, Manager*, bool, QWidget*>);
 static_assert(std::is_constructible_v<ViewButton, Manager*, const QString&, QWidget*>);
@@ -146,7 +146,7 @@ void MenuMetaObjectTest::callByName()
     // Without a sending action there is no name to save or delete.
     QVERIFY(QMetaObject::invokeMethod(&menu, "onSaveLayoutTriggered"));
     QVERIFY(QMetaObject::invokeMethod(&menu, "onDeleteLayoutTriggered"));
-    QCOMPARE(manager.views(), list({"a", "b"}));
+    QCOMPARE(manager.views(), lines({"a", "b"}));
 }
 
 QTEST_MAIN(MenuMetaObjectTest)

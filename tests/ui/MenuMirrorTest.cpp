@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/Literals.h"
+#include "support/Text.h"
 #include "ui/MenuReading.h"
 
 #include <panorel/Manager.h>
@@ -14,7 +14,7 @@
 #include <vector>
 
 using namespace Panorel;
-using namespace Panorel::UiTests;
+using namespace Panorel::Tests;
 
 /** After any sequence of operations the menu shows what the Manager holds. */
 class MenuMirrorTest : public QObject
@@ -131,7 +131,7 @@ private:
     QString anyName()
     {
         static const QStringList names =
-            list({"a", "A", "b", "B", "", "R&D", "__current__", "x y"});
+            lines({"a", "A", "b", "B", "", "R&D", "__current__", "x y"});
         return names.at(m_random.bounded(names.size()));
     }
     // Of the active group; null when it has none.
@@ -172,7 +172,7 @@ private:
     }
     QString switchGroup()
     {
-        const QStringList names = list({"G", "H", "unknown"});
+        const QStringList names = lines({"G", "H", "unknown"});
         const int index = m_random.bounded(names.size());
         (void)m_manager.activateGroup(names.at(index));
         if (index < 2)
@@ -211,7 +211,7 @@ private:
     QList<DocumentGroup> anyDocument()
     {
         QList<DocumentGroup> groups;
-        for (const QString& name : list({"H", "unknown", "G"})) {
+        for (const QString& name : lines({"H", "unknown", "G"})) {
             if (m_random.bounded(4) == 0)
                 continue;
             DocumentGroup group{name, {}};
@@ -226,7 +226,7 @@ private:
         if (!merge)
             clearModel();
         for (const DocumentGroup& group : document) {
-            const int index = list({"G", "H"}).indexOf(group.name);
+            const int index = lines({"G", "H"}).indexOf(group.name);
             if (index < 0)
                 continue;
             for (const DocumentView& view : group.views) {
@@ -289,7 +289,7 @@ private:
     }
 
     QRandomGenerator m_random;
-    Manager m_manager{list({"G", "H"}), false};
+    Manager m_manager{lines({"G", "H"}), false};
     Menu m_extended{&m_manager, true, nullptr};
     Menu m_compact{&m_manager, false, nullptr};
     ModelGroup m_model[2];
@@ -325,7 +325,7 @@ void MenuMirrorTest::operations()
         for (const Menu* menu : {&walk.extended(), &walk.compact()}) {
             QVERIFY2(shownViews(*menu) == model.entries(), context.constData());
             QVERIFY2(entries(*deleteMenu(*menu)) == model.sorted(), context.constData());
-            QVERIFY2(entries(*saveAsMenu(*menu)) == list({"[edit]"}) + model.sorted(),
+            QVERIFY2(entries(*saveAsMenu(*menu)) == lines({"[edit]"}) + model.sorted(),
                      context.constData());
         }
     }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "support/Text.h"
 #include "ui/Differences.h"
-#include "ui/Literals.h"
 #include "ui/MenuReading.h"
 
 #include <panorel/Manager.h>
@@ -11,7 +11,7 @@
 #include <QtTest>
 
 using namespace Panorel;
-using namespace Panorel::UiTests;
+using namespace Panorel::Tests;
 
 /** Nothing is set on the menu's widgets and actions beyond what the menu is for. */
 class MenuPlainnessTest : public QObject
@@ -52,7 +52,7 @@ QStringList actionDifferences(const QAction* action, const QAction& plain)
 
 void MenuPlainnessTest::init()
 {
-    m_manager = std::make_unique<Manager>(list({"G"}), false);
+    m_manager = std::make_unique<Manager>(lines({"G"}), false);
     QVERIFY(m_manager->createView("a"_s));
     QVERIFY(m_manager->saveCurrentViewAs("b"_s));
     m_menu = std::make_unique<Menu>(m_manager.get(), true, nullptr);
@@ -91,7 +91,7 @@ void MenuPlainnessTest::subMenus()
 
 void MenuPlainnessTest::viewEntries()
 {
-    const QList<QAction*> actions = UiTests::viewEntries(*m_menu);
+    const QList<QAction*> actions = Tests::viewEntries(*m_menu);
     QAction a("a"_s);
     a.setData("a"_s);
     a.setCheckable(true);
@@ -129,14 +129,14 @@ void MenuPlainnessTest::subMenuEntries()
 
 void MenuPlainnessTest::fileEntries()
 {
-    for (const QString& text : list({"Export ...", "Import ...", "Import & Merge ..."}))
+    for (const QString& text : lines({"Export ...", "Import ...", "Import & Merge ..."}))
         QCOMPARE(actionDifferences(entry(m_menu.get(), text), QAction(text)), QStringList());
 }
 
 void MenuPlainnessTest::resetEntries()
 {
     for (const QString& text :
-         list({"Reset Layout to Program Start", "Reset Layout to Factory Default"})) {
+         lines({"Reset Layout to Program Start", "Reset Layout to Factory Default"})) {
         QAction plain(text);
         plain.setEnabled(false);
         QCOMPARE(actionDifferences(entry(m_menu.get(), text), plain), QStringList());

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "ui/MenuReading.h"
 
-#include "ui/Literals.h"
+#include "support/Text.h"
 
 #include <QLineEdit>
 #include <QMenu>
 #include <QWidgetAction>
 
-namespace Panorel::UiTests {
+namespace Panorel::Tests {
 
 namespace {
 
@@ -92,4 +92,4 @@ QLineEdit* nameEdit(const QMenu& layouts)
     return editIn(saveAsMenu(layouts)->actions().value(0));
 }
 
-} // namespace Panorel::UiTests
+} // namespace Panorel::Tests

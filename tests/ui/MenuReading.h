@@ -8,7 +8,7 @@ class QAction;
 class QLineEdit;
 class QMenu;
 
-namespace Panorel::UiTests {
+namespace Panorel::Tests {
 
 /**
  * A menu as one line per entry, top to bottom: "name", "* name" for a checked one, "name (off)" for
@@ -29,4 +29,4 @@ QList<QAction*> viewEntries(const QMenu& layouts);
 /** The line edit at the top of the first sub-menu. */
 QLineEdit* nameEdit(const QMenu& layouts);
 
-} // namespace Panorel::UiTests
+} // namespace Panorel::Tests

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/Literals.h"
+#include "support/Text.h"
 #include "ui/MenuReading.h"
 #include "ui/SignalLines.h"
 
@@ -9,7 +9,7 @@
 #include <QtTest>
 
 using namespace Panorel;
-using namespace Panorel::UiTests;
+using namespace Panorel::Tests;
 
 /** The two reset entries of the extended menu. */
 class MenuResetTest : public QObject
@@ -102,7 +102,7 @@ void MenuResetTest::compactMenuIsUntouched()
     const Menu menu(&manager, false, nullptr);
     QVERIFY(manager.setProgramStartView(documentWith("s")));
     QVERIFY(manager.setFactoryDefaultView(documentWith("f")));
-    QCOMPARE(entries(menu), list({"---", "Save Current Layout As... >", "Delete Layout... >"}));
+    QCOMPARE(entries(menu), lines({"---", "Save Current Layout As... >", "Delete Layout... >"}));
 }
 
 void MenuResetTest::resetToProgramStart()
@@ -114,9 +114,9 @@ void MenuResetTest::resetToProgramStart()
     const Menu menu(&manager, true, nullptr);
     SignalLines signalLines(manager);
     programStart(menu)->trigger();
-    QCOMPARE(manager.views(), list({"s"}));
+    QCOMPARE(manager.views(), lines({"s"}));
     QCOMPARE(signalLines.take(),
-             list({"view ", "modified", "view ", "modified", "modified", "view "}));
+             lines({"view ", "modified", "view ", "modified", "modified", "view "}));
     QCOMPARE(entries(menu).first(), "s"_s);
 }
 
@@ -128,7 +128,7 @@ void MenuResetTest::resetToFactoryDefault()
     QVERIFY(manager.createView("own"_s));
     const Menu menu(&manager, true, nullptr);
     factoryDefault(menu)->trigger();
-    QCOMPARE(manager.views(), list({"f"}));
+    QCOMPARE(manager.views(), lines({"f"}));
     QCOMPARE(entries(menu).first(), "f"_s);
 }
 

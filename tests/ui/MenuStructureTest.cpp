@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/Literals.h"
+#include "support/Text.h"
 #include "ui/MenuReading.h"
 
 #include <panorel/Manager.h>
@@ -12,7 +12,7 @@
 #include <QtTest>
 
 using namespace Panorel;
-using namespace Panorel::UiTests;
+using namespace Panorel::Tests;
 
 /** What stands where in the menu, who owns it, and what it carries. */
 class MenuStructureTest : public QObject
@@ -40,14 +40,14 @@ namespace {
 
 QStringList compactEntries()
 {
-    return list({"---", "Save Current Layout As... >", "Delete Layout... >"});
+    return lines({"---", "Save Current Layout As... >", "Delete Layout... >"});
 }
 
 QStringList extendedEntries()
 {
     return compactEntries() +
-           list({"---", "Export ...", "Import ...", "Import & Merge ...", "---",
-                 "Reset Layout to Program Start (off)", "Reset Layout to Factory Default (off)"});
+           lines({"---", "Export ...", "Import ...", "Import & Merge ...", "---",
+                  "Reset Layout to Program Start (off)", "Reset Layout to Factory Default (off)"});
 }
 
 void create(Manager& manager, const QStringList& names)
@@ -67,12 +67,12 @@ void MenuStructureTest::topToBottom_data()
 
     QTest::newRow("no views, compact") << QStringList() << QString() << false << compactEntries();
     QTest::newRow("no views, extended") << QStringList() << QString() << true << extendedEntries();
-    QTest::newRow("views, compact")
-        << list({"b", "B", "a"}) << QString() << false << list({"b", "B", "a"}) + compactEntries();
-    QTest::newRow("views, extended")
-        << list({"b", "B", "a"}) << QString() << true << list({"b", "B", "a"}) + extendedEntries();
-    QTest::newRow("active view") << list({"b", "B", "a"}) << "B"_s << false
-                                 << list({"b", "* B", "a"}) + compactEntries();
+    QTest::newRow("views, compact") << lines({"b", "B", "a"}) << QString() << false
+                                    << lines({"b", "B", "a"}) + compactEntries();
+    QTest::newRow("views, extended") << lines({"b", "B", "a"}) << QString() << true
+                                     << lines({"b", "B", "a"}) + extendedEntries();
+    QTest::newRow("active view") << lines({"b", "B", "a"}) << "B"_s << false
+                                 << lines({"b", "* B", "a"}) + compactEntries();
 }
 
 void MenuStructureTest::topToBottom()
@@ -92,17 +92,17 @@ void MenuStructureTest::topToBottom()
 void MenuStructureTest::subMenusAreSorted()
 {
     Manager manager({"G"_s}, false);
-    create(manager, list({"b", "B", "a"}));
+    create(manager, lines({"b", "B", "a"}));
     const Menu menu(&manager, false, nullptr);
-    QCOMPARE(entries(*saveAsMenu(menu)), list({"[edit]", "B", "a", "b"}));
-    QCOMPARE(entries(*deleteMenu(menu)), list({"B", "a", "b"}));
+    QCOMPARE(entries(*saveAsMenu(menu)), lines({"[edit]", "B", "a", "b"}));
+    QCOMPARE(entries(*deleteMenu(menu)), lines({"B", "a", "b"}));
 }
 
 void MenuStructureTest::subMenusWithoutViews()
 {
     Manager manager({"G"_s}, false);
     const Menu menu(&manager, false, nullptr);
-    QCOMPARE(entries(*saveAsMenu(menu)), list({"[edit]"}));
+    QCOMPARE(entries(*saveAsMenu(menu)), lines({"[edit]"}));
     QCOMPARE(entries(*deleteMenu(menu)), QStringList());
 }
 
@@ -156,10 +156,10 @@ void MenuStructureTest::entriesDieWithTheMenu()
 void MenuStructureTest::viewEntries()
 {
     Manager manager({"G"_s}, false);
-    create(manager, list({"b", "R&D", ""}));
+    create(manager, lines({"b", "R&D", ""}));
     const Menu menu(&manager, false, nullptr);
     QStringList data;
-    const QList<QAction*> found = UiTests::viewEntries(menu);
+    const QList<QAction*> found = Tests::viewEntries(menu);
     for (const QAction* action : found) {
         QCOMPARE(action->data().userType(), int(QMetaType::QString));
         QCOMPARE(action->text(), action->data().toString());
@@ -167,7 +167,7 @@ void MenuStructureTest::viewEntries()
         QVERIFY(!action->menu());
         data.append(action->data().toString());
     }
-    QCOMPARE(data, list({"b", "R&D", ""}));
+    QCOMPARE(data, lines({"b", "R&D", ""}));
 }
 
 void MenuStructureTest::subMenuEntries()
@@ -187,13 +187,13 @@ void MenuStructureTest::subMenuEntries()
 void MenuStructureTest::oneExclusiveGroup()
 {
     Manager manager({"G"_s}, false);
-    create(manager, list({"a", "b"}));
+    create(manager, lines({"a", "b"}));
     const Menu menu(&manager, true, nullptr);
     const QList<QActionGroup*> groups = menu.findChildren<QActionGroup*>();
     QCOMPARE(groups.size(), 1);
     QCOMPARE(groups.first()->parent(), &menu);
     QVERIFY(groups.first()->isExclusive());
-    QCOMPARE(groups.first()->actions(), UiTests::viewEntries(menu));
+    QCOMPARE(groups.first()->actions(), Tests::viewEntries(menu));
 }
 
 void MenuStructureTest::nameEditIsEmpty()
@@ -216,8 +216,8 @@ void MenuStructureTest::fontOfTheEntries()
     create(manager, {"a"_s});
     const Menu menu(&manager, false, nullptr);
     QApplication::setFont(before);
-    QCOMPARE(UiTests::viewEntries(menu).first()->font(), special);
-    QCOMPARE(UiTests::viewEntries(menu).first()->font().style(), QFont::StyleNormal);
+    QCOMPARE(Tests::viewEntries(menu).first()->font(), special);
+    QCOMPARE(Tests::viewEntries(menu).first()->font().style(), QFont::StyleNormal);
 }
 
 void MenuStructureTest::laterFontsDoNotReachTheEntries()
@@ -229,9 +229,9 @@ void MenuStructureTest::laterFontsDoNotReachTheEntries()
     QFont later = before;
     later.setPointSize(before.pointSize() + 7);
     QApplication::setFont(later);
-    const QFont oldEntry = UiTests::viewEntries(menu).first()->font();
+    const QFont oldEntry = Tests::viewEntries(menu).first()->font();
     create(manager, {"new"_s});
-    const QFont newEntry = UiTests::viewEntries(menu).last()->font();
+    const QFont newEntry = Tests::viewEntries(menu).last()->font();
     QApplication::setFont(before);
     QCOMPARE(oldEntry, before);
     QCOMPARE(newEntry, before);
@@ -246,8 +246,8 @@ void MenuStructureTest::skippedViewUnknownToTheManager()
         <CurrentView Name="__current__"/></Group></Groups></ViewData>)",
                             false));
     const Menu menu(&manager, false, nullptr);
-    QCOMPARE(entries(menu), list({"a"}) + compactEntries());
-    QVERIFY(!UiTests::viewEntries(menu).first()->font().italic());
+    QCOMPARE(entries(menu), lines({"a"}) + compactEntries());
+    QVERIFY(!Tests::viewEntries(menu).first()->font().italic());
 }
 
 QTEST_MAIN(MenuStructureTest)

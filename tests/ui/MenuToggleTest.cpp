@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/Literals.h"
+#include "support/Text.h"
 #include "ui/MenuReading.h"
 #include "ui/ReportedUserData.h"
 #include "ui/SignalLines.h"
@@ -10,7 +10,7 @@
 #include <QtTest>
 
 using namespace Panorel;
-using namespace Panorel::UiTests;
+using namespace Panorel::Tests;
 
 /** Skipped views: how they look, and how toggleView() passes over them. */
 class MenuToggleTest : public QObject
@@ -84,21 +84,21 @@ void MenuToggleTest::table_data()
     QTest::addColumn<int>("checked");
     QTest::addColumn<QStringList>("activated");
 
-    QTest::newRow("none") << "" << -1 << list({});
-    QTest::newRow("one, not checked") << "a" << -1 << list({"view a"});
-    QTest::newRow("one, checked") << "a" << 0 << list({});
-    QTest::newRow("one skipped") << "-" << -1 << list({});
-    QTest::newRow("one skipped and checked") << "-" << 0 << list({});
-    QTest::newRow("two, to the next") << "ab" << 0 << list({"view b"});
-    QTest::newRow("two, around the end") << "ab" << 1 << list({"view a"});
-    QTest::newRow("over a skipped one") << "a-c" << 0 << list({"view c"});
-    QTest::newRow("around the end") << "a-c" << 2 << list({"view a"});
-    QTest::newRow("the other is skipped") << "a-" << 0 << list({});
-    QTest::newRow("from a skipped one") << "a-c" << 1 << list({"view c"});
-    QTest::newRow("none checked, the first is skipped") << "-b" << -1 << list({"view b"});
-    QTest::newRow("all skipped") << "---" << -1 << list({});
-    QTest::newRow("around the end over skipped ones") << "-b-d-" << 3 << list({"view b"});
-    QTest::newRow("the next of several") << "abcd" << 1 << list({"view c"});
+    QTest::newRow("none") << "" << -1 << lines({});
+    QTest::newRow("one, not checked") << "a" << -1 << lines({"view a"});
+    QTest::newRow("one, checked") << "a" << 0 << lines({});
+    QTest::newRow("one skipped") << "-" << -1 << lines({});
+    QTest::newRow("one skipped and checked") << "-" << 0 << lines({});
+    QTest::newRow("two, to the next") << "ab" << 0 << lines({"view b"});
+    QTest::newRow("two, around the end") << "ab" << 1 << lines({"view a"});
+    QTest::newRow("over a skipped one") << "a-c" << 0 << lines({"view c"});
+    QTest::newRow("around the end") << "a-c" << 2 << lines({"view a"});
+    QTest::newRow("the other is skipped") << "a-" << 0 << lines({});
+    QTest::newRow("from a skipped one") << "a-c" << 1 << lines({"view c"});
+    QTest::newRow("none checked, the first is skipped") << "-b" << -1 << lines({"view b"});
+    QTest::newRow("all skipped") << "---" << -1 << lines({});
+    QTest::newRow("around the end over skipped ones") << "-b-d-" << 3 << lines({"view b"});
+    QTest::newRow("the next of several") << "abcd" << 1 << lines({"view c"});
 }
 
 void MenuToggleTest::table()
@@ -154,8 +154,8 @@ void MenuToggleTest::roundTrip()
     SignalLines signalLines(manager);
     for (int i = 0; i < 4; ++i)
         menu.toggleView();
-    QCOMPARE(signalLines.take(), list({"view a", "view b", "view d", "view a"}));
-    QCOMPARE(entries(menu).mid(0, 4), list({"* a", "b", "c (skipped)", "d"}));
+    QCOMPARE(signalLines.take(), lines({"view a", "view b", "view d", "view a"}));
+    QCOMPARE(entries(menu).mid(0, 4), lines({"* a", "b", "c (skipped)", "d"}));
 }
 
 void MenuToggleTest::userDataOfTheMoment()
@@ -165,10 +165,10 @@ void MenuToggleTest::userDataOfTheMoment()
     Menu menu(&manager, false, nullptr);
     // No signal tells of it, so the look stays; the walk asks anew.
     reportedUserData().insert("b"_s, true);
-    QCOMPARE(entries(menu).mid(0, 3), list({"* a", "b", "c"}));
+    QCOMPARE(entries(menu).mid(0, 3), lines({"* a", "b", "c"}));
     SignalLines signalLines(manager);
     menu.toggleView();
-    QCOMPARE(signalLines.take(), list({"view c"}));
+    QCOMPARE(signalLines.take(), lines({"view c"}));
 }
 
 void MenuToggleTest::namelessView()
@@ -182,7 +182,7 @@ void MenuToggleTest::namelessView()
     SignalLines signalLines(manager);
     menu.toggleView();
     QCOMPARE(signalLines.take(), QStringList());
-    QCOMPARE(entries(menu).mid(0, 3), list({"* a", "", "c"}));
+    QCOMPARE(entries(menu).mid(0, 3), lines({"* a", "", "c"}));
 }
 
 void MenuToggleTest::kindsOfUserData_data()
@@ -257,10 +257,10 @@ void MenuToggleTest::lookIsRebuilt()
     const Menu menu(&manager, false, nullptr);
     reportedUserData().insert("b"_s, true);
     Q_EMIT manager.viewUserDataChanged(true);
-    QCOMPARE(entries(menu).mid(0, 2), list({"* a", "b (skipped)"}));
+    QCOMPARE(entries(menu).mid(0, 2), lines({"* a", "b (skipped)"}));
     reportedUserData().insert("b"_s, false);
     Q_EMIT manager.viewUserDataChanged(false);
-    QCOMPARE(entries(menu).mid(0, 2), list({"* a", "b"}));
+    QCOMPARE(entries(menu).mid(0, 2), lines({"* a", "b"}));
     QVERIFY(!viewEntries(menu).at(1)->font().italic());
 }
 
@@ -271,7 +271,7 @@ void MenuToggleTest::skippedViewCanBeChosen()
     const Menu menu(&manager, false, nullptr);
     viewEntries(menu).at(1)->trigger();
     QCOMPARE(manager.activeView(), "b"_s);
-    QCOMPARE(entries(menu).mid(0, 2), list({"a", "* b (skipped)"}));
+    QCOMPARE(entries(menu).mid(0, 2), lines({"a", "* b (skipped)"}));
 }
 
 void MenuToggleTest::subMenusShowTheBareName()
@@ -279,13 +279,13 @@ void MenuToggleTest::subMenusShowTheBareName()
     Manager manager({"G"_s}, false);
     setUp(manager, "a-"_s, 0);
     const Menu menu(&manager, false, nullptr);
-    QCOMPARE(entries(*saveAsMenu(menu)), list({"[edit]", "a", "b"}));
-    QCOMPARE(entries(*deleteMenu(menu)), list({"a", "b"}));
+    QCOMPARE(entries(*saveAsMenu(menu)), lines({"[edit]", "a", "b"}));
+    QCOMPARE(entries(*deleteMenu(menu)), lines({"a", "b"}));
     QVERIFY(!entry(saveAsMenu(menu), "b"_s)->font().italic());
     entry(saveAsMenu(menu), "b"_s)->trigger();
     QCOMPARE(manager.activeView(), "b"_s);
     entry(deleteMenu(menu), "b"_s)->trigger();
-    QCOMPARE(manager.views(), list({"a"}));
+    QCOMPARE(manager.views(), lines({"a"}));
 }
 
 void MenuToggleTest::laterFontsDoNotReachSkippedEntries()

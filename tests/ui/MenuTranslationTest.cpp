@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "NameDialog.h"
 
+#include "support/Text.h"
 #include "ui/FileDialogUser.h"
-#include "ui/Literals.h"
 #include "ui/MenuReading.h"
 #include "ui/ReportedUserData.h"
 
@@ -17,7 +17,7 @@
 #include <QtTest>
 
 using namespace Panorel;
-using namespace Panorel::UiTests;
+using namespace Panorel::Tests;
 
 /** Which texts go through translation, and under which context. */
 class MenuTranslationTest : public QObject
@@ -80,11 +80,11 @@ void MenuTranslationTest::menu()
     QVERIFY(manager.createView("a"_s));
     const Menu menu(&manager, true, nullptr);
     QCOMPARE(menu.title(), "M:Layouts"_s);
-    QCOMPARE(
-        entries(menu),
-        list({"a", "---", "M:Save Current Layout As... >", "M:Delete Layout... >", "---",
-              "M:Export ...", "M:Import ...", "M:Import & Merge ...", "---",
-              "M:Reset Layout to Program Start (off)", "M:Reset Layout to Factory Default (off)"}));
+    QCOMPARE(entries(menu),
+             lines({"a", "---", "M:Save Current Layout As... >", "M:Delete Layout... >", "---",
+                    "M:Export ...", "M:Import ...", "M:Import & Merge ...", "---",
+                    "M:Reset Layout to Program Start (off)",
+                    "M:Reset Layout to Factory Default (off)"}));
 }
 
 void MenuTranslationTest::skippedLabelIsNotTranslated()
@@ -127,7 +127,7 @@ void MenuTranslationTest::fileDialogs()
     entry(&menu, entryText)->trigger();
     QVERIFY(user.wasUsed());
     QCOMPARE(title, caption);
-    QCOMPARE(filters, list({"M:View File (*.views)", "All Files (*.*)"}));
+    QCOMPARE(filters, lines({"M:View File (*.views)", "All Files (*.*)"}));
 }
 
 void MenuTranslationTest::nameDialog()
@@ -140,13 +140,13 @@ void MenuTranslationTest::nameDialog()
     for (const QLabel* label : labels)
         texts.append(label->text());
     texts.sort();
-    QCOMPARE(texts, list({"N:&Name of the layout:", "N:Name must not be empty!"}));
+    QCOMPARE(texts, lines({"N:&Name of the layout:", "N:Name must not be empty!"}));
 }
 
 void MenuTranslationTest::nameDialogMessages()
 {
     Manager manager({"G"_s}, false);
-    const NameDialog dialog(&manager, list({"used"}), false);
+    const NameDialog dialog(&manager, lines({"used"}), false);
     const auto* message = dialog.findChild<QLabel*>("messageLabel"_s);
     auto* edit = dialog.findChild<QLineEdit*>();
     edit->setText("used"_s);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/Literals.h"
+#include "support/Text.h"
 #include "ui/MenuReading.h"
 
 #include <panorel/Manager.h>
@@ -12,7 +12,7 @@
 #include <functional>
 
 using namespace Panorel;
-using namespace Panorel::UiTests;
+using namespace Panorel::Tests;
 
 using Change = std::function<void(Manager&)>;
 Q_DECLARE_METATYPE(Change)
@@ -53,7 +53,7 @@ private:
 
 void MenuUpdateTest::init()
 {
-    m_manager = std::make_unique<Manager>(list({"G", "H"}), false);
+    m_manager = std::make_unique<Manager>(lines({"G", "H"}), false);
     QVERIFY(m_manager->saveCurrentViewAs("a"_s));
     QVERIFY(m_manager->createView("A"_s));
     m_menu = std::make_unique<Menu>(m_manager.get(), true, nullptr);
@@ -86,9 +86,9 @@ void MenuUpdateTest::rebuiltBy()
     m_manager->blockSignals(false);
     const QPointer<QLineEdit> oldEdit = nameEdit(*m_menu);
     change(*m_manager);
-    QCOMPARE(views(), list({"A", "* new"}));
-    QCOMPARE(entries(*saveAsMenu(*m_menu)), list({"[edit]", "A", "new"}));
-    QCOMPARE(entries(*deleteMenu(*m_menu)), list({"A", "new"}));
+    QCOMPARE(views(), lines({"A", "* new"}));
+    QCOMPARE(entries(*saveAsMenu(*m_menu)), lines({"[edit]", "A", "new"}));
+    QCOMPARE(entries(*deleteMenu(*m_menu)), lines({"A", "new"}));
     QVERIFY(oldEdit.isNull());
 }
 
@@ -124,11 +124,11 @@ void MenuUpdateTest::rebuiltBySlot()
     QVERIFY(m_manager->saveCurrentViewAs("new"_s));
     m_manager->blockSignals(false);
     m_menu->updateMenu();
-    QCOMPARE(views(), list({"a", "A", "* new"}));
+    QCOMPARE(views(), lines({"a", "A", "* new"}));
     // Again and again, nothing piles up.
     const int children = m_menu->findChildren<QObject*>().size();
     m_menu->updateMenu();
-    QCOMPARE(views(), list({"a", "A", "* new"}));
+    QCOMPARE(views(), lines({"a", "A", "* new"}));
     QCOMPARE(m_menu->findChildren<QObject*>().size(), children);
 }
 
@@ -138,27 +138,27 @@ void MenuUpdateTest::followsTheGroup()
     QCOMPARE(views(), QStringList());
     QCOMPARE(entries(*deleteMenu(*m_menu)), QStringList());
     QVERIFY(m_manager->createView("h"_s));
-    QCOMPARE(views(), list({"h"}));
+    QCOMPARE(views(), lines({"h"}));
     QVERIFY(m_manager->activateGroup("G"_s));
-    QCOMPARE(views(), list({"* a", "A"}));
+    QCOMPARE(views(), lines({"* a", "A"}));
 }
 
 void MenuUpdateTest::keepsTheMarkWhenRebuilt()
 {
     QVERIFY(m_manager->createView("b"_s));
-    QCOMPARE(views(), list({"* a", "A", "b"}));
+    QCOMPARE(views(), lines({"* a", "A", "b"}));
     m_manager->deleteView("A"_s);
-    QCOMPARE(views(), list({"* a", "b"}));
+    QCOMPARE(views(), lines({"* a", "b"}));
 }
 
 void MenuUpdateTest::movesTheMark()
 {
     QVERIFY(m_manager->activateView("A"_s));
-    QCOMPARE(views(), list({"a", "* A"}));
+    QCOMPARE(views(), lines({"a", "* A"}));
     QVERIFY(m_manager->saveCurrentViewAs("a"_s));
-    QCOMPARE(views(), list({"* a", "A"}));
+    QCOMPARE(views(), lines({"* a", "A"}));
     QVERIFY(m_manager->saveCurrentViewAs("c"_s));
-    QCOMPARE(views(), list({"a", "A", "* c"}));
+    QCOMPARE(views(), lines({"a", "A", "* c"}));
 }
 
 void MenuUpdateTest::marksByCase()
@@ -166,7 +166,7 @@ void MenuUpdateTest::marksByCase()
     // Both orders, so that the first of two like names does not win by chance.
     QVERIFY(m_manager->saveCurrentViewAs("B"_s));
     QVERIFY(m_manager->saveCurrentViewAs("b"_s));
-    QCOMPARE(views(), list({"a", "A", "B", "* b"}));
+    QCOMPARE(views(), lines({"a", "A", "B", "* b"}));
 }
 
 void MenuUpdateTest::removesTheMark_data()
@@ -192,17 +192,17 @@ void MenuUpdateTest::removesTheMark()
 {
     QFETCH(Change, change);
 
-    QCOMPARE(views(), list({"* a", "A"}));
+    QCOMPARE(views(), lines({"* a", "A"}));
     change(*m_manager);
-    QCOMPARE(views(), list({"a", "A"}));
+    QCOMPARE(views(), lines({"a", "A"}));
 }
 
 void MenuUpdateTest::removesNoMark()
 {
     m_manager->deleteView("a"_s);
-    QCOMPARE(views(), list({"A"}));
+    QCOMPARE(views(), lines({"A"}));
     m_menu->updateSelection();
-    QCOMPARE(views(), list({"A"}));
+    QCOMPARE(views(), lines({"A"}));
 }
 
 void MenuUpdateTest::keepsTheMarkOfAnUnknownName()
@@ -211,14 +211,14 @@ void MenuUpdateTest::keepsTheMarkOfAnUnknownName()
     QVERIFY(m_manager->saveCurrentViewAs("unlisted"_s));
     m_manager->blockSignals(false);
     Q_EMIT m_manager->viewActivated("unlisted"_s);
-    QCOMPARE(views(), list({"* a", "A"}));
+    QCOMPARE(views(), lines({"* a", "A"}));
 }
 
 void MenuUpdateTest::marksNothingForTheNamelessView()
 {
     QVERIFY(m_manager->saveCurrentViewAs(""_s));
     QCOMPARE(m_manager->activeView(), ""_s);
-    QCOMPARE(views(), list({"a", "A", ""}));
+    QCOMPARE(views(), lines({"a", "A", ""}));
 }
 
 void MenuUpdateTest::selectionBySlot()
@@ -226,9 +226,9 @@ void MenuUpdateTest::selectionBySlot()
     m_manager->blockSignals(true);
     QVERIFY(m_manager->activateView("A"_s));
     m_manager->blockSignals(false);
-    QCOMPARE(views(), list({"* a", "A"}));
+    QCOMPARE(views(), lines({"* a", "A"}));
     m_menu->updateSelection();
-    QCOMPARE(views(), list({"a", "* A"}));
+    QCOMPARE(views(), lines({"a", "* A"}));
 }
 
 void MenuUpdateTest::losesTypedText()
@@ -264,12 +264,12 @@ void MenuUpdateTest::specialName()
     QAction* save = entry(saveAsMenu(*m_menu), name);
     QVERIFY(save);
     save->trigger();
-    QCOMPARE(m_manager->views(), list({"a", "A"}) + QStringList(name));
+    QCOMPARE(m_manager->views(), lines({"a", "A"}) + QStringList(name));
     QCOMPARE(m_manager->activeView(), name);
     QAction* remove = entry(deleteMenu(*m_menu), name);
     QVERIFY(remove);
     remove->trigger();
-    QCOMPARE(m_manager->views(), list({"a", "A"}));
+    QCOMPARE(m_manager->views(), lines({"a", "A"}));
 }
 
 QTEST_MAIN(MenuUpdateTest)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "NameDialog.h"
 
-#include "ui/Literals.h"
+#include "support/Text.h"
 
 #include <panorel/Manager.h>
 
@@ -11,7 +11,7 @@
 #include <QtTest>
 
 using namespace Panorel;
-using namespace Panorel::UiTests;
+using namespace Panorel::Tests;
 
 /** What a screen reader is told of the name dialog. */
 class NameDialogAccessibilityTest : public QObject
@@ -44,8 +44,8 @@ private:
 
 void NameDialogAccessibilityTest::init()
 {
-    m_manager = std::make_unique<Manager>(list({"G"}), false);
-    m_dialog = std::make_unique<NameDialog>(m_manager.get(), list({"used"}), false);
+    m_manager = std::make_unique<Manager>(lines({"G"}), false);
+    m_dialog = std::make_unique<NameDialog>(m_manager.get(), lines({"used"}), false);
 }
 
 void NameDialogAccessibilityTest::cleanup()

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "NameDialog.h"
 
+#include "support/Text.h"
 #include "ui/Hands.h"
-#include "ui/Literals.h"
 
 #include <panorel/Manager.h>
 
@@ -14,7 +14,7 @@
 #include <QtTest>
 
 using namespace Panorel;
-using namespace Panorel::UiTests;
+using namespace Panorel::Tests;
 
 /** The dialog that asks for a name and checks it while it is typed. */
 class NameDialogTest : public QObject
@@ -58,7 +58,7 @@ private:
 
 void NameDialogTest::init()
 {
-    m_manager = std::make_unique<Manager>(list({"G"}), false);
+    m_manager = std::make_unique<Manager>(lines({"G"}), false);
     QVERIFY(m_manager->createView("other"_s));
     QVERIFY(m_manager->saveCurrentViewAs("active"_s));
 }
@@ -155,7 +155,7 @@ void NameDialogTest::checked()
     QFETCH(bool, allowActiveName);
     QFETCH(QString, problem);
 
-    open(list({"other", "active", " padded ", "  "}), allowActiveName);
+    open(lines({"other", "active", " padded ", "  "}), allowActiveName);
     edit()->setText("x"_s);
     edit()->setText(name);
     QCOMPARE(message()->text(), problem);
@@ -174,7 +174,7 @@ void NameDialogTest::checkedAtEveryKey()
     }
     Hands::press(Qt::Key_Backspace);
     messages.append(message()->text());
-    QCOMPARE(messages, list({"", "", "", "", "Name already in use!", "", "Name already in use!"}));
+    QCOMPARE(messages, lines({"", "", "", "", "Name already in use!", "", "Name already in use!"}));
 }
 
 void NameDialogTest::activeViewOfTheMoment()
@@ -210,7 +210,7 @@ void NameDialogTest::acceptedWithReturn()
     QCOMPARE(m_dialog->result(), int(QDialog::Accepted));
     QCOMPARE(m_dialog->name(), "  new "_s);
     // What is done with the name is the caller's to decide.
-    QCOMPARE(m_manager->views(), list({"other", "active"}));
+    QCOMPARE(m_manager->views(), lines({"other", "active"}));
 }
 
 void NameDialogTest::acceptedWithTheMouse()

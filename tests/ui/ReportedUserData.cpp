@@ -3,7 +3,7 @@
 
 #include <panorel/Manager.h>
 
-namespace Panorel::UiTests {
+namespace Panorel::Tests {
 
 QHash<QString, QVariant>& reportedUserData()
 {
@@ -11,11 +11,11 @@ QHash<QString, QVariant>& reportedUserData()
     return table;
 }
 
-} // namespace Panorel::UiTests
+} // namespace Panorel::Tests
 
 // The dynamic linker finds a program's symbol before the library's of the same name. So the menu,
 // which knows how to skip views, meets user data here that the library's Manager does not report.
 QVariant Panorel::Manager::viewUserData(const QString& name) const
 {
-    return UiTests::reportedUserData().value(name);
+    return Tests::reportedUserData().value(name);
 }

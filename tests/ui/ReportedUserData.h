@@ -5,7 +5,7 @@
 #include <QString>
 #include <QVariant>
 
-namespace Panorel::UiTests {
+namespace Panorel::Tests {
 
 /**
  * What Manager::viewUserData(name) answers in a test program that is linked with the source file of
@@ -13,4 +13,4 @@ namespace Panorel::UiTests {
  */
 QHash<QString, QVariant>& reportedUserData();
 
-} // namespace Panorel::UiTests
+} // namespace Panorel::Tests

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ui/Literals.h"
+#include "support/Text.h"
 
 #include <panorel/Manager.h>
 
@@ -10,7 +10,7 @@
 
 #include <utility>
 
-namespace Panorel::UiTests {
+namespace Panorel::Tests {
 
 /** The Manager's signals of views and groups, one line each, in the order of their emission. */
 class SignalLines
@@ -35,4 +35,4 @@ private:
     QObject m_receiver;
 };
 
-} // namespace Panorel::UiTests
+} // namespace Panorel::Tests

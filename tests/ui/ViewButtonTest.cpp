@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "support/Text.h"
 #include "ui/Differences.h"
 #include "ui/Hands.h"
-#include "ui/Literals.h"
 #include "ui/MenuReading.h"
 #include "ui/ReportedUserData.h"
 #include "ui/SignalLines.h"
@@ -20,7 +20,7 @@
 #include <functional>
 
 using namespace Panorel;
-using namespace Panorel::UiTests;
+using namespace Panorel::Tests;
 
 /** The tool button: a click on its main part, a click on its arrow. */
 class ViewButtonTest : public QObject
@@ -80,7 +80,7 @@ QPoint inControl(const QToolButton& button, QStyle::SubControl control)
 
 void ViewButtonTest::init()
 {
-    m_manager = std::make_unique<Manager>(list({"G"}), false);
+    m_manager = std::make_unique<Manager>(lines({"G"}), false);
     m_bar = std::make_unique<QToolBar>();
     m_button = new ViewButton(m_manager.get(), "Layouts"_s, m_bar.get());
     m_bar->addWidget(m_button);
@@ -157,8 +157,8 @@ void ViewButtonTest::clickToggles()
     SignalLines signalLines(*m_manager);
     for (int i = 0; i < 3; ++i)
         Hands::click(*m_button, inControl(*m_button, QStyle::SC_ToolButton));
-    QCOMPARE(signalLines.take(), list({"view a", "view b", "view a"}));
-    QCOMPARE(entries(*m_button->menu()).mid(0, 2), list({"* a", "b"}));
+    QCOMPARE(signalLines.take(), lines({"view a", "view b", "view a"}));
+    QCOMPARE(entries(*m_button->menu()).mid(0, 2), lines({"* a", "b"}));
 }
 
 void ViewButtonTest::clickWithoutViews()
@@ -225,7 +225,7 @@ void ViewButtonTest::arrowOpensTheMenu()
     QStringList shown;
     SignalLines signalLines(*m_manager);
     clickArrow([&](Menu& menu) { shown = entries(menu); });
-    QCOMPARE(shown, list({"* a", "---", "Save Current Layout As... >", "Delete Layout... >"}));
+    QCOMPARE(shown, lines({"* a", "---", "Save Current Layout As... >", "Delete Layout... >"}));
     QCOMPARE(signalLines.take(), QStringList());
 }
 
@@ -236,7 +236,7 @@ void ViewButtonTest::chooseInTheArrowsMenu()
     QVERIFY(show());
     SignalLines signalLines(*m_manager);
     clickArrow([&](Menu& menu) { Hands::click(menu, viewEntries(menu).at(1)); });
-    QCOMPARE(signalLines.take(), list({"view b"}));
+    QCOMPARE(signalLines.take(), lines({"view b"}));
     QVERIFY(!m_button->menu()->isVisible());
 }
 
@@ -250,7 +250,7 @@ void ViewButtonTest::saveInTheArrowsMenu()
         Hands::press(Qt::Key_Return);
         QVERIFY(!menu.isVisible());
     });
-    QCOMPARE(m_manager->views(), list({"new"}));
+    QCOMPARE(m_manager->views(), lines({"new"}));
     QCOMPARE(entries(*m_button->menu()).first(), "* new"_s);
 }
 
