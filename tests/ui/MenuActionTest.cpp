@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "support/SignalLog.h"
 #include "support/Text.h"
 #include "ui/DockWindow.h"
 #include "ui/Hands.h"
 #include "ui/MenuReading.h"
-#include "ui/SignalLines.h"
 
 #include <panorel/Manager.h>
 #include <panorel/Menu.h>
@@ -55,7 +55,7 @@ private:
 
     std::unique_ptr<DockWindow> m_window;
     std::unique_ptr<Manager> m_manager;
-    std::unique_ptr<SignalLines> m_signals;
+    std::unique_ptr<SignalLog> m_signals;
     // A child of the window.
     Menu* m_menu = nullptr;
 };
@@ -69,7 +69,7 @@ void MenuActionTest::init()
     m_window->moveDock(Qt::RightDockWidgetArea);
     QVERIFY(m_manager->createView("Right"_s));
     m_menu = new Menu(m_manager.get(), true, m_window.get());
-    m_signals = std::make_unique<SignalLines>(*m_manager);
+    m_signals = std::make_unique<SignalLog>(*m_manager);
     m_window->menuBar()->addMenu(m_menu);
     m_window->resize(500, 300);
     m_window->show();
@@ -123,7 +123,7 @@ void MenuActionTest::chooseWithTheMouse()
 {
     QVERIFY(Hands::open(*m_menu));
     Hands::click(*m_menu, viewEntries(*m_menu).at(1));
-    QCOMPARE(m_signals->take(), lines({"view Right"}));
+    QCOMPARE(m_signals->take(), lines({"viewActivated('Right')"}));
     QCOMPARE(views(), lines({"left", "* Right"}));
     QVERIFY(!m_menu->isVisible());
     QVERIFY(Hands::open(*m_menu));
@@ -138,7 +138,7 @@ void MenuActionTest::chooseWithTheKeyboard()
     Hands::press(Qt::Key_Down);
     Hands::press(Qt::Key_Down);
     Hands::press(Qt::Key_Return);
-    QCOMPARE(m_signals->take(), lines({"view Right"}));
+    QCOMPARE(m_signals->take(), lines({"viewActivated('Right')"}));
     QCOMPARE(m_window->dockArea(), Qt::RightDockWidgetArea);
     QCOMPARE(views(), lines({"left", "* Right"}));
     QVERIFY(!m_menu->isVisible());
@@ -149,7 +149,7 @@ void MenuActionTest::chooseInTheMenuBar()
     Hands::click(*m_window->menuBar(), *m_menu);
     QVERIFY(QTest::qWaitForWindowExposed(m_menu));
     Hands::click(*m_menu, viewEntries(*m_menu).at(1));
-    QCOMPARE(m_signals->take(), lines({"view Right"}));
+    QCOMPARE(m_signals->take(), lines({"viewActivated('Right')"}));
     QVERIFY(!m_menu->isVisible());
 }
 
@@ -158,7 +158,7 @@ void MenuActionTest::chooseTheCheckedView()
     // An exclusive group keeps the mark on a checked entry, and tells of the choice all the same.
     QVERIFY(Hands::open(*m_menu));
     Hands::click(*m_menu, viewEntries(*m_menu).at(0));
-    QCOMPARE(m_signals->take(), lines({"view left"}));
+    QCOMPARE(m_signals->take(), lines({"viewActivated('left')"}));
     QCOMPARE(m_window->dockArea(), Qt::LeftDockWidgetArea);
     QCOMPARE(views(), lines({"* left", "Right"}));
 }
@@ -209,7 +209,8 @@ void MenuActionTest::saveAsNewName()
     Hands::type(typed);
     QCOMPARE(edit->text(), typed);
     Hands::press(confirm);
-    QCOMPARE(m_signals->take(), QStringList({"modified"_s, "view "_s + typed}));
+    QCOMPARE(m_signals->take(),
+             QStringList({"groupModified()"_s, "viewActivated("_s + quoted(typed) + ")"_s}));
     QCOMPARE(m_manager->activeView(), typed);
     QCOMPARE(views(), QStringList({"left"_s, "Right"_s, "* "_s + typed}));
     // The rebuild deletes the field while it still handles the key.
@@ -261,7 +262,7 @@ void MenuActionTest::saveAsNothing()
 {
     QVERIFY(openNameEditWithKeys());
     Hands::press(Qt::Key_Return);
-    QCOMPARE(m_signals->take(), lines({"modified", "view "}));
+    QCOMPARE(m_signals->take(), lines({"groupModified()", "viewActivated('')"}));
     QCOMPARE(m_manager->views(), lines({"left", "Right", ""}));
     QCOMPARE(views(), lines({"left", "Right", ""}));
     QCOMPARE(entries(*deleteMenu(*m_menu)), lines({"", "Right", "left"}));
@@ -274,7 +275,7 @@ void MenuActionTest::saveAsExistingName()
     QVERIFY(openNameEditWithKeys());
     Hands::type("left"_s);
     Hands::press(Qt::Key_Return);
-    QCOMPARE(m_signals->take(), lines({"view left"}));
+    QCOMPARE(m_signals->take(), lines({"viewActivated('left')"}));
     QVERIFY(!m_menu->isVisible());
     m_window->moveDock(Qt::TopDockWidgetArea);
     QVERIFY(m_manager->activateView("left"_s));
@@ -299,7 +300,7 @@ void MenuActionTest::saveOverWithTheKeyboard()
     QVERIFY(openWithKeys(saveAsMenu(*m_menu)));
     Hands::press(Qt::Key_Down);
     Hands::press(Qt::Key_Return);
-    QCOMPARE(m_signals->take(), lines({"view Right"}));
+    QCOMPARE(m_signals->take(), lines({"viewActivated('Right')"}));
     QCOMPARE(views(), lines({"left", "* Right"}));
     QVERIFY(!m_menu->isVisible());
 }
@@ -308,7 +309,7 @@ void MenuActionTest::saveOverWithTheMouse()
 {
     QVERIFY(openWithMouse(saveAsMenu(*m_menu)));
     Hands::click(*saveAsMenu(*m_menu), entry(saveAsMenu(*m_menu), "left"_s));
-    QCOMPARE(m_signals->take(), lines({"view left"}));
+    QCOMPARE(m_signals->take(), lines({"viewActivated('left')"}));
     m_window->moveDock(Qt::TopDockWidgetArea);
     QVERIFY(m_manager->activateView("left"_s));
     QCOMPARE(m_window->dockArea(), Qt::RightDockWidgetArea);
@@ -320,7 +321,7 @@ void MenuActionTest::deleteWithTheKeyboard()
     const QPointer<QAction> sent = entry(deleteMenu(*m_menu), "Right"_s);
     QVERIFY(openWithKeys(deleteMenu(*m_menu)));
     Hands::press(Qt::Key_Return);
-    QCOMPARE(m_signals->take(), lines({"modified"}));
+    QCOMPARE(m_signals->take(), lines({"groupModified()"}));
     QCOMPARE(views(), lines({"* left"}));
     QVERIFY(sent.isNull());
     QVERIFY(!m_menu->isVisible());
@@ -331,7 +332,7 @@ void MenuActionTest::deleteWithTheMouse()
     const QPointer<QAction> sent = entry(deleteMenu(*m_menu), "Right"_s);
     QVERIFY(openWithMouse(deleteMenu(*m_menu)));
     Hands::click(*deleteMenu(*m_menu), sent);
-    QCOMPARE(m_signals->take(), lines({"modified"}));
+    QCOMPARE(m_signals->take(), lines({"groupModified()"}));
     QCOMPARE(views(), lines({"* left"}));
     QVERIFY(sent.isNull());
     QVERIFY(!m_menu->isVisible());
@@ -341,7 +342,7 @@ void MenuActionTest::deleteTheCheckedView()
 {
     QVERIFY(openWithMouse(deleteMenu(*m_menu)));
     Hands::click(*deleteMenu(*m_menu), entry(deleteMenu(*m_menu), "left"_s));
-    QCOMPARE(m_signals->take(), lines({"view ", "modified"}));
+    QCOMPARE(m_signals->take(), lines({"viewActivated('')", "groupModified()"}));
     QVERIFY(m_manager->activeView().isNull());
     QCOMPARE(views(), lines({"Right"}));
     // The layout on the screen stays.
@@ -366,10 +367,11 @@ void MenuActionTest::saveBySlot_data()
 
     QTest::newRow("null") << QString() << QStringList();
     QTest::newRow("empty") << ""_s << QStringList();
-    QTest::newRow("new") << "new"_s << lines({"modified", "view new"});
-    QTest::newRow("existing") << "Right"_s << lines({"view Right"});
-    QTest::newRow("blanks") << "  "_s << lines({"modified", "view   "});
-    QTest::newRow("reserved word") << "__current__"_s << lines({"modified", "view __current__"});
+    QTest::newRow("new") << "new"_s << lines({"groupModified()", "viewActivated('new')"});
+    QTest::newRow("existing") << "Right"_s << lines({"viewActivated('Right')"});
+    QTest::newRow("blanks") << "  "_s << lines({"groupModified()", "viewActivated('  ')"});
+    QTest::newRow("reserved word")
+        << "__current__"_s << lines({"groupModified()", "viewActivated('__current__')"});
 }
 
 void MenuActionTest::saveBySlot()

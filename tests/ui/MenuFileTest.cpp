@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "support/SignalLog.h"
 #include "support/Text.h"
 #include "ui/FileDialogUser.h"
 #include "ui/Hands.h"
 #include "ui/MenuReading.h"
-#include "ui/SignalLines.h"
 
 #include <panorel/IManagable.h>
 #include <panorel/Manager.h>
@@ -60,7 +60,7 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<Manager> m_manager;
     std::unique_ptr<Menu> m_menu;
-    std::unique_ptr<SignalLines> m_signals;
+    std::unique_ptr<SignalLog> m_signals;
     QtMessageHandler m_messageHandler = nullptr;
 };
 
@@ -132,7 +132,7 @@ void MenuFileTest::init()
     QVERIFY(m_manager->saveCurrentViewAs("own"_s));
     QVERIFY(m_manager->createView("n"_s));
     m_menu = std::make_unique<Menu>(m_manager.get(), true, nullptr);
-    m_signals = std::make_unique<SignalLines>(*m_manager);
+    m_signals = std::make_unique<SignalLog>(*m_manager);
     logged().clear();
     m_messageHandler = qInstallMessageHandler(keepMessage);
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "support/SignalLog.h"
 #include "support/Text.h"
 #include "ui/MenuReading.h"
-#include "ui/SignalLines.h"
 
 #include <panorel/Manager.h>
 #include <panorel/Menu.h>
@@ -112,11 +112,12 @@ void MenuResetTest::resetToProgramStart()
     QVERIFY(manager.setFactoryDefaultView(documentWith("f")));
     QVERIFY(manager.createView("own"_s));
     const Menu menu(&manager, true, nullptr);
-    SignalLines signalLines(manager);
+    SignalLog signalLog(manager);
     programStart(menu)->trigger();
     QCOMPARE(manager.views(), lines({"s"}));
-    QCOMPARE(signalLines.take(),
-             lines({"view ", "modified", "view ", "modified", "modified", "view "}));
+    QCOMPARE(signalLog.take(),
+             lines({"viewActivated('')", "groupModified()", "viewActivated(null)",
+                    "groupModified()", "groupModified()", "viewActivated(null)"}));
     QCOMPARE(entries(menu).first(), "s"_s);
 }
 
@@ -141,10 +142,10 @@ void MenuResetTest::resetThatFails()
     Q_EMIT manager.programStartViewChanged(true);
     Q_EMIT manager.factoryDefaultViewChanged(true);
     const QStringList before = entries(menu);
-    SignalLines signalLines(manager);
+    SignalLog signalLog(manager);
     programStart(menu)->trigger();
     factoryDefault(menu)->trigger();
-    QCOMPARE(signalLines.take(), QStringList());
+    QCOMPARE(signalLog.take(), QStringList());
     QCOMPARE(entries(menu), before);
 }
 

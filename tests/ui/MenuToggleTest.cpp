@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "support/SignalLog.h"
 #include "support/Text.h"
 #include "ui/MenuReading.h"
 #include "ui/ReportedUserData.h"
-#include "ui/SignalLines.h"
 
 #include <panorel/Manager.h>
 #include <panorel/Menu.h>
@@ -58,6 +58,16 @@ void setUp(Manager& manager, const QString& views, int checked)
         QVERIFY(manager.activateView(nameAt(checked)));
 }
 
+QStringList signalsOfToggling(const QString& views, int checked)
+{
+    Manager manager({"G"_s}, false);
+    setUp(manager, views, checked);
+    Menu menu(&manager, false, nullptr);
+    SignalLog signalLog(manager);
+    menu.toggleView();
+    return signalLog.take();
+}
+
 // The views behind the checked one, then those before it; without a checked one, all in order.
 QStringList expectedSignals(const QString& views, int checked)
 {
@@ -66,7 +76,7 @@ QStringList expectedSignals(const QString& views, int checked)
     for (int step = 1; step <= others; ++step) {
         const int index = (checked + step) % count;
         if (views.at(index) != QLatin1Char('-'))
-            return QStringList("view "_s + nameAt(index));
+            return QStringList("viewActivated("_s + quoted(nameAt(index)) + ")"_s);
     }
     return QStringList();
 }
@@ -85,20 +95,22 @@ void MenuToggleTest::table_data()
     QTest::addColumn<QStringList>("activated");
 
     QTest::newRow("none") << "" << -1 << lines({});
-    QTest::newRow("one, not checked") << "a" << -1 << lines({"view a"});
+    QTest::newRow("one, not checked") << "a" << -1 << lines({"viewActivated('a')"});
     QTest::newRow("one, checked") << "a" << 0 << lines({});
     QTest::newRow("one skipped") << "-" << -1 << lines({});
     QTest::newRow("one skipped and checked") << "-" << 0 << lines({});
-    QTest::newRow("two, to the next") << "ab" << 0 << lines({"view b"});
-    QTest::newRow("two, around the end") << "ab" << 1 << lines({"view a"});
-    QTest::newRow("over a skipped one") << "a-c" << 0 << lines({"view c"});
-    QTest::newRow("around the end") << "a-c" << 2 << lines({"view a"});
+    QTest::newRow("two, to the next") << "ab" << 0 << lines({"viewActivated('b')"});
+    QTest::newRow("two, around the end") << "ab" << 1 << lines({"viewActivated('a')"});
+    QTest::newRow("over a skipped one") << "a-c" << 0 << lines({"viewActivated('c')"});
+    QTest::newRow("around the end") << "a-c" << 2 << lines({"viewActivated('a')"});
     QTest::newRow("the other is skipped") << "a-" << 0 << lines({});
-    QTest::newRow("from a skipped one") << "a-c" << 1 << lines({"view c"});
-    QTest::newRow("none checked, the first is skipped") << "-b" << -1 << lines({"view b"});
+    QTest::newRow("from a skipped one") << "a-c" << 1 << lines({"viewActivated('c')"});
+    QTest::newRow("none checked, the first is skipped")
+        << "-b" << -1 << lines({"viewActivated('b')"});
     QTest::newRow("all skipped") << "---" << -1 << lines({});
-    QTest::newRow("around the end over skipped ones") << "-b-d-" << 3 << lines({"view b"});
-    QTest::newRow("the next of several") << "abcd" << 1 << lines({"view c"});
+    QTest::newRow("around the end over skipped ones")
+        << "-b-d-" << 3 << lines({"viewActivated('b')"});
+    QTest::newRow("the next of several") << "abcd" << 1 << lines({"viewActivated('c')"});
 }
 
 void MenuToggleTest::table()
@@ -107,12 +119,7 @@ void MenuToggleTest::table()
     QFETCH(int, checked);
     QFETCH(QStringList, activated);
 
-    Manager manager({"G"_s}, false);
-    setUp(manager, views, checked);
-    Menu menu(&manager, false, nullptr);
-    SignalLines signalLines(manager);
-    menu.toggleView();
-    QCOMPARE(signalLines.take(), activated);
+    QCOMPARE(signalsOfToggling(views, checked), activated);
     QCOMPARE(expectedSignals(views, checked), activated);
 }
 
@@ -138,12 +145,7 @@ void MenuToggleTest::everyCombination()
     QFETCH(QString, views);
     QFETCH(int, checked);
 
-    Manager manager({"G"_s}, false);
-    setUp(manager, views, checked);
-    Menu menu(&manager, false, nullptr);
-    SignalLines signalLines(manager);
-    menu.toggleView();
-    QCOMPARE(signalLines.take(), expectedSignals(views, checked));
+    QCOMPARE(signalsOfToggling(views, checked), expectedSignals(views, checked));
 }
 
 void MenuToggleTest::roundTrip()
@@ -151,10 +153,11 @@ void MenuToggleTest::roundTrip()
     Manager manager({"G"_s}, false);
     setUp(manager, "ab-d"_s, -1);
     Menu menu(&manager, false, nullptr);
-    SignalLines signalLines(manager);
+    SignalLog signalLog(manager);
     for (int i = 0; i < 4; ++i)
         menu.toggleView();
-    QCOMPARE(signalLines.take(), lines({"view a", "view b", "view d", "view a"}));
+    QCOMPARE(signalLog.take(), lines({"viewActivated('a')", "viewActivated('b')",
+                                      "viewActivated('d')", "viewActivated('a')"}));
     QCOMPARE(entries(menu).mid(0, 4), lines({"* a", "b", "c (skipped)", "d"}));
 }
 
@@ -166,9 +169,9 @@ void MenuToggleTest::userDataOfTheMoment()
     // No signal tells of it, so the look stays; the walk asks anew.
     reportedUserData().insert("b"_s, true);
     QCOMPARE(entries(menu).mid(0, 3), lines({"* a", "b", "c"}));
-    SignalLines signalLines(manager);
+    SignalLog signalLog(manager);
     menu.toggleView();
-    QCOMPARE(signalLines.take(), lines({"view c"}));
+    QCOMPARE(signalLog.take(), lines({"viewActivated('c')"}));
 }
 
 void MenuToggleTest::namelessView()
@@ -179,9 +182,9 @@ void MenuToggleTest::namelessView()
     QVERIFY(manager.createView(""_s));
     QVERIFY(manager.createView("c"_s));
     Menu menu(&manager, false, nullptr);
-    SignalLines signalLines(manager);
+    SignalLog signalLog(manager);
     menu.toggleView();
-    QCOMPARE(signalLines.take(), QStringList());
+    QCOMPARE(signalLog.take(), QStringList());
     QCOMPARE(entries(menu).mid(0, 3), lines({"* a", "", "c"}));
 }
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "support/SignalLog.h"
 #include "support/Text.h"
 #include "ui/Differences.h"
 #include "ui/Hands.h"
 #include "ui/MenuReading.h"
 #include "ui/ReportedUserData.h"
-#include "ui/SignalLines.h"
 
 #include <panorel/Manager.h>
 #include <panorel/Menu.h>
@@ -154,28 +154,29 @@ void ViewButtonTest::clickToggles()
     QVERIFY(m_manager->createView("a"_s));
     QVERIFY(m_manager->createView("b"_s));
     QVERIFY(show());
-    SignalLines signalLines(*m_manager);
+    SignalLog signalLog(*m_manager);
     for (int i = 0; i < 3; ++i)
         Hands::click(*m_button, inControl(*m_button, QStyle::SC_ToolButton));
-    QCOMPARE(signalLines.take(), lines({"view a", "view b", "view a"}));
+    QCOMPARE(signalLog.take(),
+             lines({"viewActivated('a')", "viewActivated('b')", "viewActivated('a')"}));
     QCOMPARE(entries(*m_button->menu()).mid(0, 2), lines({"* a", "b"}));
 }
 
 void ViewButtonTest::clickWithoutViews()
 {
     QVERIFY(show());
-    SignalLines signalLines(*m_manager);
+    SignalLog signalLog(*m_manager);
     Hands::click(*m_button, inControl(*m_button, QStyle::SC_ToolButton));
-    QCOMPARE(signalLines.take(), QStringList());
+    QCOMPARE(signalLog.take(), QStringList());
 }
 
 void ViewButtonTest::clickWithOneActiveView()
 {
     QVERIFY(m_manager->saveCurrentViewAs("a"_s));
     QVERIFY(show());
-    SignalLines signalLines(*m_manager);
+    SignalLog signalLog(*m_manager);
     Hands::click(*m_button, inControl(*m_button, QStyle::SC_ToolButton));
-    QCOMPARE(signalLines.take(), QStringList());
+    QCOMPARE(signalLog.take(), QStringList());
 }
 
 void ViewButtonTest::clickWithSkippedViewsOnly()
@@ -184,9 +185,9 @@ void ViewButtonTest::clickWithSkippedViewsOnly()
     QVERIFY(m_manager->createView("a"_s));
     QVERIFY(m_manager->createView("b"_s));
     QVERIFY(show());
-    SignalLines signalLines(*m_manager);
+    SignalLog signalLog(*m_manager);
     Hands::click(*m_button, inControl(*m_button, QStyle::SC_ToolButton));
-    QCOMPARE(signalLines.take(), QStringList());
+    QCOMPARE(signalLog.take(), QStringList());
 }
 
 void ViewButtonTest::clickOpensNoMenu()
@@ -223,10 +224,10 @@ void ViewButtonTest::arrowOpensTheMenu()
     QVERIFY(m_manager->setProgramStartView(m_manager->toXml(true)));
     QVERIFY(show());
     QStringList shown;
-    SignalLines signalLines(*m_manager);
+    SignalLog signalLog(*m_manager);
     clickArrow([&](Menu& menu) { shown = entries(menu); });
     QCOMPARE(shown, lines({"* a", "---", "Save Current Layout As... >", "Delete Layout... >"}));
-    QCOMPARE(signalLines.take(), QStringList());
+    QCOMPARE(signalLog.take(), QStringList());
 }
 
 void ViewButtonTest::chooseInTheArrowsMenu()
@@ -234,9 +235,9 @@ void ViewButtonTest::chooseInTheArrowsMenu()
     QVERIFY(m_manager->saveCurrentViewAs("a"_s));
     QVERIFY(m_manager->createView("b"_s));
     QVERIFY(show());
-    SignalLines signalLines(*m_manager);
+    SignalLog signalLog(*m_manager);
     clickArrow([&](Menu& menu) { Hands::click(menu, viewEntries(menu).at(1)); });
-    QCOMPARE(signalLines.take(), lines({"view b"}));
+    QCOMPARE(signalLog.take(), lines({"viewActivated('b')"}));
     QVERIFY(!m_button->menu()->isVisible());
 }
 
