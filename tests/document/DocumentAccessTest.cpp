@@ -5,7 +5,7 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-using namespace Panorel::DocumentTests;
+using namespace Panorel::Tests;
 
 namespace {
 

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "DocumentFixture.h"
+#include "support/Owner.h"
+#include "support/SmallWindow.h"
+
+#include <panorel/Manager.h>
 
 #include <QRandomGenerator>
 #include <QtTest>
 
 using namespace Panorel;
-using namespace Panorel::DocumentTests;
+using namespace Panorel::Tests;
 
 namespace {
 
@@ -102,20 +106,19 @@ void DocumentFixedPointTest::writtenDocumentIsReadAsItself()
 void DocumentFixedPointTest::liveLayoutsComeBack()
 {
     SmallWindow window;
-    WindowOwner owner;
-    owner.windows = {{text("w"), &window}};
+    Owner owner({{"w"_s, &window}});
     Manager manager(names("A,B"), /*mergeOnApply=*/true);
     manager.registerManagable(owner);
-    QVERIFY(manager.saveCurrentViewAs(text("left")));
-    window.addDockWidget(Qt::RightDockWidgetArea, window.dock);
-    QVERIFY(manager.saveCurrentViewAs(text("right")));
+    QVERIFY(manager.saveCurrentViewAs("left"_s));
+    window.moveDock(Qt::RightDockWidgetArea);
+    QVERIFY(manager.saveCurrentViewAs("right"_s));
     const QByteArray written = manager.toXml(/*markActive=*/true);
-    QVERIFY(manager.activateView(text("left")));
-    manager.deleteView(text("right"));
+    QVERIFY(manager.activateView("left"_s));
+    manager.deleteView("right"_s);
     QVERIFY(manager.fromXml(written, /*merge=*/false));
     QCOMPARE(manager.views(), names("left,right"));
-    QCOMPARE(manager.activeView(), text("right"));
-    QCOMPARE(window.dockWidgetArea(window.dock), Qt::RightDockWidgetArea);
+    QCOMPARE(manager.activeView(), "right"_s);
+    QCOMPARE(window.dockArea(), Qt::RightDockWidgetArea);
     // The saved views only: the live layout is a new one of Qt's for the same arrangement.
     QCOMPARE(viewsOf(manager.toXml(/*markActive=*/true)), viewsOf(written));
 }

@@ -2,35 +2,16 @@
 #pragma once
 
 #include "DocumentFixture.h"
+#include "support/LogLines.h"
+#include "support/Owner.h"
+#include "support/SignalLog.h"
+#include "support/SmallWindow.h"
+
+#include <panorel/Manager.h>
 
 #include <QtTest>
 
-namespace Panorel::DocumentTests {
-
-/** Counts what is logged while it lives. */
-class LogCounter
-{
-public:
-    LogCounter()
-    {
-        s_lines.clear();
-        m_previous = qInstallMessageHandler(&LogCounter::handle);
-    }
-    ~LogCounter() { qInstallMessageHandler(m_previous); }
-    LogCounter(const LogCounter&) = delete;
-    LogCounter& operator=(const LogCounter&) = delete;
-
-    QStringList lines() const { return s_lines; }
-
-private:
-    static void handle(QtMsgType, const QMessageLogContext&, const QString& message)
-    {
-        s_lines.append(message);
-    }
-
-    static inline QStringList s_lines;
-    QtMessageHandler m_previous = nullptr;
-};
+namespace Panorel::Tests {
 
 /** A Manager with two groups and a window, into which documents are put. */
 class DocumentJudge
@@ -38,21 +19,21 @@ class DocumentJudge
 public:
     DocumentJudge()
     {
-        owner.windows = {{text("w"), &window}};
+        owner.windows = {{"w"_s, &window}};
         manager.registerManagable(owner);
         const QByteArray groups =
             group("A", view("a1", state("w", "aa") + userData("kept"), "true") + view("a2")) +
             group("B", view("b1", state("x", "bb"), "true"), state("w", "cc"));
         m_ready = manager.fromXml(document(groups), /*merge=*/false) &&
                   manager.setFactoryDefaultView(document(group("A", view("factory"))));
-        record.lines.clear();
+        (void)record.take();
     }
 
     /** All four ways by which a document comes in take it. */
     void expectAccepted(const QByteArray& data)
     {
         QVERIFY(m_ready);
-        const LogCounter log;
+        const LogLines log;
         QVERIFY(manager.setFactoryDefaultView(data));
         QVERIFY(manager.setProgramStartView(data));
         QVERIFY(manager.fromXml(data, /*merge=*/true));
@@ -65,13 +46,13 @@ public:
     {
         QVERIFY(m_ready);
         const QByteArrayList before = snapshot();
-        const LogCounter log;
+        const LogLines log;
         QVERIFY(!manager.fromXml(data, /*merge=*/true));
         QVERIFY(!manager.fromXml(data, /*merge=*/false));
         QVERIFY(!manager.setFactoryDefaultView(data));
         QVERIFY(!manager.setProgramStartView(data));
         QCOMPARE(log.lines(), QStringList());
-        QCOMPARE(record.lines, QStringList());
+        QCOMPARE(record.lines(), QStringList());
         QCOMPARE(snapshot(), before);
         QVERIFY(!manager.programStartViewSet());
         QVERIFY(manager.activateFactoryDefaultView());
@@ -79,9 +60,9 @@ public:
     }
 
     SmallWindow window;
-    WindowOwner owner;
+    Owner owner;
     Manager manager{names("A,B"), /*mergeOnApply=*/false};
-    SignalRecord record{manager};
+    SignalLog record{manager};
 
 private:
     QByteArrayList snapshot()
@@ -92,4 +73,4 @@ private:
     bool m_ready = false;
 };
 
-} // namespace Panorel::DocumentTests
+} // namespace Panorel::Tests

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "DocumentJudge.h"
 
-using namespace Panorel::DocumentTests;
+using namespace Panorel::Tests;
 
 namespace {
 
@@ -95,7 +95,7 @@ void DocumentLimitsTest::judge()
     QFETCH(bool, accepted);
     // One way in only, for each of them costs a validation.
     Panorel::Manager manager(names("A"), /*mergeOnApply=*/false);
-    const LogCounter log;
+    const LogLines log;
     QCOMPARE(manager.fromXml(data, /*merge=*/true), accepted);
     QCOMPARE(log.lines(), QStringList());
 }

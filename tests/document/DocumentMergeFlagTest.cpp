@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "DocumentFixture.h"
+#include "support/Owner.h"
+#include "support/SmallWindow.h"
+
+#include <panorel/Manager.h>
 
 #include <QtTest>
 
 using namespace Panorel;
-using namespace Panorel::DocumentTests;
+using namespace Panorel::Tests;
 
 /** "ToolBarState": written and read only by a Manager that merges. */
 class DocumentMergeFlagTest : public QObject
@@ -23,19 +27,19 @@ private:
     // The window's layout with the dock widget and the tool bar in these places.
     QByteArray arranged(Qt::DockWidgetArea dock, Qt::ToolBarArea bar)
     {
-        m_window->addDockWidget(dock, m_window->dock);
-        m_window->addToolBar(bar, m_window->bar);
+        m_window->moveDock(dock);
+        m_window->moveBar(bar);
         return m_window->saveState(0).toHex();
     }
 
     std::unique_ptr<SmallWindow> m_window;
-    WindowOwner m_owner;
+    Owner m_owner;
 };
 
 void DocumentMergeFlagTest::init()
 {
     m_window = std::make_unique<SmallWindow>();
-    m_owner.windows = {{text("w"), m_window.get()}};
+    m_owner.windows = {{"w"_s, m_window.get()}};
 }
 
 // The document's tool-bar state has the dock widget at the top and the tool bar at the bottom, its
@@ -80,8 +84,8 @@ void DocumentMergeFlagTest::whatComesBack()
         Manager manager(names("A"), mergeOnApply);
         manager.registerManagable(m_owner);
         QVERIFY(manager.fromXml(data, merge));
-        QTEST(int(m_window->dockWidgetArea(m_window->dock)), "dock");
-        QTEST(int(m_window->toolBarArea(m_window->bar)), "bar");
+        QTEST(int(m_window->dockArea()), "dock");
+        QTEST(int(m_window->barArea()), "bar");
     }
 }
 
@@ -108,7 +112,7 @@ void DocumentMergeFlagTest::laterOneOfTheSameIdCounts()
     const QByteArray states =
         toolBarState("w", bottom) + toolBarState("w", right) + toolBarState("w", {});
     QVERIFY(manager.fromXml(document({}, states), /*merge=*/true));
-    QCOMPARE(m_window->toolBarArea(m_window->bar), Qt::RightToolBarArea);
+    QCOMPARE(m_window->barArea(), Qt::RightToolBarArea);
 }
 
 // A current view without states is captured while the document is read, so before its tool-bar
@@ -120,8 +124,8 @@ void DocumentMergeFlagTest::currentViewOfTheDocumentIsAppliedOverTheToolBars()
     Manager manager(names("A"), /*mergeOnApply=*/true);
     manager.registerManagable(m_owner);
     QVERIFY(manager.fromXml(document(group("A", {}), toolBarState("w", bars)), /*merge=*/true));
-    QCOMPARE(m_window->dockWidgetArea(m_window->dock), Qt::LeftDockWidgetArea);
-    QCOMPARE(m_window->toolBarArea(m_window->bar), Qt::BottomToolBarArea);
+    QCOMPARE(m_window->dockArea(), Qt::LeftDockWidgetArea);
+    QCOMPARE(m_window->barArea(), Qt::BottomToolBarArea);
 }
 
 QTEST_MAIN(DocumentMergeFlagTest)

@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "DocumentFixture.h"
+#include "support/Owner.h"
+#include "support/SmallWindow.h"
+
+#include <panorel/Manager.h>
 
 #include <QtTest>
 
 using namespace Panorel;
-using namespace Panorel::DocumentTests;
+using namespace Panorel::Tests;
 
 namespace {
 
@@ -103,17 +107,17 @@ void DocumentReadTest::activeMarks_data()
                         const QString& merged) {
         QTest::newRow(name) << views << replaced << merged;
     };
-    row("no mark", view("a") + view("b"), QString(), text("b"));
-    row("true", view("a", {}, "true"), text("a"), text("a"));
-    row("1", view("a", {}, "1"), text("a"), text("a"));
-    row("false", view("b", {}, "false"), QString(), text("b"));
-    row("0", view("b", {}, "0"), QString(), text("b"));
-    row("true with blanks", view("a", {}, " true "), QString(), text("b"));
-    row("1 with a blank", view("a", {}, "1 "), QString(), text("b"));
-    row("two marks", view("a", {}, "1") + view("c", {}, "true"), text("c"), text("c"));
-    row("false after true", view("a", {}, "true") + view("a", {}, "false"), text("a"), text("a"));
-    row("new view", view("c", {}, "true") + view("d"), text("c"), text("c"));
-    row("empty name", view("", {}, "true"), text(""), text(""));
+    row("no mark", view("a") + view("b"), QString(), "b"_s);
+    row("true", view("a", {}, "true"), "a"_s, "a"_s);
+    row("1", view("a", {}, "1"), "a"_s, "a"_s);
+    row("false", view("b", {}, "false"), QString(), "b"_s);
+    row("0", view("b", {}, "0"), QString(), "b"_s);
+    row("true with blanks", view("a", {}, " true "), QString(), "b"_s);
+    row("1 with a blank", view("a", {}, "1 "), QString(), "b"_s);
+    row("two marks", view("a", {}, "1") + view("c", {}, "true"), "c"_s, "c"_s);
+    row("false after true", view("a", {}, "true") + view("a", {}, "false"), "a"_s, "a"_s);
+    row("new view", view("c", {}, "true") + view("d"), "c"_s, "c"_s);
+    row("empty name", view("", {}, "true"), ""_s, ""_s);
 }
 
 void DocumentReadTest::activeMarks()
@@ -174,18 +178,18 @@ void DocumentReadTest::newViewWithoutUserDataWritesItEmpty()
 {
     QVERIFY(m_manager->fromXml(document(group("A", view("n"))), /*merge=*/true));
     QCOMPARE(content(m_manager->toXml(false), "n"), userData({}));
-    QCOMPARE(m_manager->viewUserData(text("a")), QVariant());
+    QCOMPARE(m_manager->viewUserData("a"_s), QVariant());
 }
 
 void DocumentReadTest::groupsStay()
 {
-    QVERIFY(m_manager->activateGroup(text("B")));
+    QVERIFY(m_manager->activateGroup("B"_s));
     for (const bool merge : {true, false}) {
         QVERIFY(m_manager->fromXml(document(group("C", {}) + group("A", view("n"))), merge));
         QCOMPARE(m_manager->groups(), names("A,B"));
-        QCOMPARE(m_manager->activeGroup(), text("B"));
+        QCOMPARE(m_manager->activeGroup(), "B"_s);
         QCOMPARE(m_manager->views(), merge ? names("x") : QStringList());
-        QCOMPARE(quoted(m_manager->activeView()), merge ? text("'x'") : text("null"));
+        QCOMPARE(quoted(m_manager->activeView()), merge ? "'x'"_s : "null"_s);
     }
 }
 
@@ -210,8 +214,7 @@ void DocumentReadTest::currentView()
 void DocumentReadTest::currentViewWithoutStatesIsTheLiveLayout()
 {
     QMainWindow window;
-    WindowOwner owner;
-    owner.windows = {{text("w"), &window}};
+    Owner owner({{"w"_s, &window}});
     m_manager->registerManagable(owner);
     const QByteArray live = state("w", window.saveState(0).toHex());
     QVERIFY(m_manager->fromXml(document(group("B", {}, state("w", "cc"))), /*merge=*/false));
@@ -223,32 +226,30 @@ void DocumentReadTest::currentViewWithoutStatesIsTheLiveLayout()
 void DocumentReadTest::currentViewIsApplied()
 {
     SmallWindow window;
-    WindowOwner owner;
-    owner.windows = {{text("w"), &window}};
+    Owner owner({{"w"_s, &window}});
     m_manager->registerManagable(owner);
     const QByteArray left = window.saveState(0);
     for (const bool merge : {true, false}) {
-        window.addDockWidget(Qt::RightDockWidgetArea, window.dock);
+        window.moveDock(Qt::RightDockWidgetArea);
         QVERIFY(m_manager->fromXml(document(group("A", {}, state("w", left.toHex()))), merge));
-        QCOMPARE(window.dockWidgetArea(window.dock), Qt::LeftDockWidgetArea);
+        QCOMPARE(window.dockArea(), Qt::LeftDockWidgetArea);
         // And again for a document that does not name the active group.
-        window.addDockWidget(Qt::RightDockWidgetArea, window.dock);
+        window.moveDock(Qt::RightDockWidgetArea);
         QVERIFY(m_manager->fromXml(document(group("B", {}, state("w", "cc"))), merge));
-        QCOMPARE(window.dockWidgetArea(window.dock), Qt::LeftDockWidgetArea);
+        QCOMPARE(window.dockArea(), Qt::LeftDockWidgetArea);
     }
 }
 
 void DocumentReadTest::windowsStayWhenTheirIdIsUnknown()
 {
     SmallWindow window;
-    WindowOwner owner;
-    owner.windows = {{text("w"), &window}};
+    Owner owner({{"w"_s, &window}});
     const QByteArray left = window.saveState(0).toHex();
-    window.addDockWidget(Qt::RightDockWidgetArea, window.dock);
+    window.moveDock(Qt::RightDockWidgetArea);
     m_manager->registerManagable(owner);
     for (const char* id : {"W", "", "other"}) {
         QVERIFY(m_manager->fromXml(document(group("A", {}, state(id, left))), /*merge=*/false));
-        QCOMPARE(window.dockWidgetArea(window.dock), Qt::RightDockWidgetArea);
+        QCOMPARE(window.dockArea(), Qt::RightDockWidgetArea);
     }
 }
 

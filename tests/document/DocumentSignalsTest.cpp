@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "DocumentFixture.h"
+#include "support/Owner.h"
+#include "support/SignalLog.h"
+#include "support/SmallWindow.h"
+
+#include <panorel/Manager.h>
 
 #include <QtTest>
 
 using namespace Panorel;
-using namespace Panorel::DocumentTests;
+using namespace Panorel::Tests;
 
 /** Which signals fromXml() emits, in which order and with which model. */
 class DocumentSignalsTest : public QObject
@@ -34,37 +39,40 @@ void DocumentSignalsTest::sequence_data()
     QTest::addColumn<bool>("merge");
     QTest::addColumn<QStringList>("expected");
     const QStringList cleared = {
-        text("viewActivated('') [a b] 'b'"), text("groupModified() [a b] 'b'"),
-        text("viewActivated(null) [a b] null"), text("groupModified() [] null")};
+        "viewActivated('') [A: a, b; active 'b']"_s, "groupModified() [A: a, b; active 'b']"_s,
+        "viewActivated(null) [A: a, b; active null]"_s, "groupModified() [A: ; active null]"_s};
     const QByteArray marked = document(group("A", view("c", {}, "1")));
     const QByteArray unmarked = document(group("A", view("c")));
     const QByteArray otherGroup = document(group("B", view("c", {}, "1")));
     const QByteArray otherVersion = QByteArray(marked).replace("1.1.0", "1.1.1");
-    QTest::newRow("replace, marked") << marked << false
-                                     << cleared + QStringList{text("groupModified() [c] 'c'"),
-                                                              text("viewActivated('c') [c] 'c'")};
+    QTest::newRow("replace, marked")
+        << marked << false
+        << cleared + QStringList{"groupModified() [A: c; active 'c']"_s,
+                                 "viewActivated('c') [A: c; active 'c']"_s};
     QTest::newRow("replace, no mark")
         << unmarked << false
-        << cleared +
-               QStringList{text("groupModified() [c] null"), text("viewActivated(null) [c] null")};
+        << cleared + QStringList{"groupModified() [A: c; active null]"_s,
+                                 "viewActivated(null) [A: c; active null]"_s};
     for (const QByteArray& data : {otherGroup, otherVersion}) {
         QTest::newRow(data == otherGroup ? "replace, other group" : "replace, other version")
             << data << false
-            << cleared + QStringList{text("groupModified() [] null"),
-                                     text("viewActivated(null) [] null")};
+            << cleared + QStringList{"groupModified() [A: ; active null]"_s,
+                                     "viewActivated(null) [A: ; active null]"_s};
         QTest::newRow(data == otherGroup ? "merge, other group" : "merge, other version")
             << data << true
-            << QStringList{text("groupModified() [a b] 'b'"), text("viewActivated('b') [a b] 'b'")};
+            << QStringList{"groupModified() [A: a, b; active 'b']"_s,
+                           "viewActivated('b') [A: a, b; active 'b']"_s};
     }
-    QTest::newRow("merge, marked")
-        << marked << true
-        << QStringList{text("groupModified() [a b c] 'c'"), text("viewActivated('c') [a b c] 'c'")};
-    QTest::newRow("merge, no mark")
-        << unmarked << true
-        << QStringList{text("groupModified() [a b c] 'b'"), text("viewActivated('b') [a b c] 'b'")};
+    QTest::newRow("merge, marked") << marked << true
+                                   << QStringList{"groupModified() [A: a, b, c; active 'c']"_s,
+                                                  "viewActivated('c') [A: a, b, c; active 'c']"_s};
+    QTest::newRow("merge, no mark") << unmarked << true
+                                    << QStringList{"groupModified() [A: a, b, c; active 'b']"_s,
+                                                   "viewActivated('b') [A: a, b, c; active 'b']"_s};
     QTest::newRow("active view without a name")
         << document(group("A", view("", {}, "1"))) << true
-        << QStringList{text("groupModified() [a b ] ''"), text("viewActivated('') [a b ] ''")};
+        << QStringList{"groupModified() [A: a, b, ; active '']"_s,
+                       "viewActivated('') [A: a, b, ; active '']"_s};
 }
 
 void DocumentSignalsTest::sequence()
@@ -72,21 +80,20 @@ void DocumentSignalsTest::sequence()
     QFETCH(QByteArray, data);
     QFETCH(bool, merge);
     QFETCH(QStringList, expected);
-    const SignalRecord record(*m_manager);
+    const SignalLog log(*m_manager, SignalLog::SignalsAndModel);
     QVERIFY(m_manager->fromXml(data, merge));
-    QCOMPARE(record.lines, expected);
+    QCOMPARE(log.lines(), expected);
 }
 
 void DocumentSignalsTest::windowsAreReadyWithTheLastSignalOnly()
 {
     SmallWindow window;
-    WindowOwner owner;
-    owner.windows = {{text("w"), &window}};
+    Owner owner({{"w"_s, &window}});
     const QByteArray left = window.saveState(0).toHex();
-    window.addDockWidget(Qt::RightDockWidgetArea, window.dock);
+    window.moveDock(Qt::RightDockWidgetArea);
     m_manager->registerManagable(owner);
     QList<Qt::DockWidgetArea> areas;
-    const auto look = [&] { areas.append(window.dockWidgetArea(window.dock)); };
+    const auto look = [&] { areas.append(window.dockArea()); };
     connect(m_manager.get(), &Manager::groupModified, &window, look);
     connect(m_manager.get(), &Manager::viewActivated, &window, look);
     QVERIFY(m_manager->fromXml(document(group("A", {}, state("w", left))), /*merge=*/true));

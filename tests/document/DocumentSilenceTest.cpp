@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "DocumentFixture.h"
 
+#include <panorel/Manager.h>
+
 #include <QTemporaryFile>
 #include <QtTest>
 
 #include <unistd.h>
 
-using namespace Panorel::DocumentTests;
+using namespace Panorel::Tests;
 
 namespace {
 

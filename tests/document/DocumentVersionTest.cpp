@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "DocumentFixture.h"
+#include "support/Owner.h"
+#include "support/SmallWindow.h"
+
+#include <panorel/Manager.h>
 
 #include <QtTest>
 
 using namespace Panorel;
-using namespace Panorel::DocumentTests;
+using namespace Panorel::Tests;
 
 /** Documents of another version are not read, and yet the answer is true. */
 class DocumentVersionTest : public QObject
@@ -42,9 +46,9 @@ void DocumentVersionTest::otherVersionIsNotRead()
     QCOMPARE(manager.toXml(true), before);
     QVERIFY(manager.fromXml(other, /*merge=*/false));
     QCOMPARE(manager.views(), QStringList());
-    QCOMPARE(quoted(manager.activeView()), text("null"));
+    QCOMPARE(quoted(manager.activeView()), "null"_s);
     QVERIFY(manager.toXml(true).contains("<State DescriptorId=\"w\">cc</State>"));
-    QVERIFY(manager.activateGroup(text("B")));
+    QVERIFY(manager.activateGroup("B"_s));
     QCOMPARE(manager.views(), QStringList());
 }
 
@@ -71,20 +75,18 @@ void DocumentVersionTest::currentViewIsAppliedAllTheSame()
     QFETCH(bool, mergeOnApply);
     QFETCH(bool, merge);
     SmallWindow window;
-    WindowOwner owner;
-    owner.windows = {{text("w"), &window}};
+    Owner owner({{"w"_s, &window}});
     Manager manager(names("A"), mergeOnApply);
     manager.registerManagable(owner);
-    QVERIFY(manager.saveCurrentViewAs(text("left")));
+    QVERIFY(manager.saveCurrentViewAs("left"_s));
     const QByteArray bars = window.saveState(0).toHex();
-    window.addDockWidget(Qt::RightDockWidgetArea, window.dock);
-    window.addToolBar(Qt::BottomToolBarArea, window.bar);
+    window.moveDock(Qt::RightDockWidgetArea);
+    window.moveBar(Qt::BottomToolBarArea);
     const QByteArray other = document({}, toolBarState("w", bars), "1.0");
     QVERIFY(manager.fromXml(other, merge));
-    QCOMPARE(window.dockWidgetArea(window.dock), Qt::LeftDockWidgetArea);
+    QCOMPARE(window.dockArea(), Qt::LeftDockWidgetArea);
     // The document's tool bars are not read, so only the current view could bring them back.
-    QCOMPARE(window.toolBarArea(window.bar),
-             mergeOnApply ? Qt::BottomToolBarArea : Qt::TopToolBarArea);
+    QCOMPARE(window.barArea(), mergeOnApply ? Qt::BottomToolBarArea : Qt::TopToolBarArea);
 }
 
 QTEST_MAIN(DocumentVersionTest)

@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "DocumentFixture.h"
+#include "support/Owner.h"
+#include "support/SignalLog.h"
+
+#include <panorel/Manager.h>
 
 #include <QtTest>
 
 using namespace Panorel;
-using namespace Panorel::DocumentTests;
+using namespace Panorel::Tests;
 
 namespace {
 
@@ -37,7 +41,7 @@ private Q_SLOTS:
 
 void DocumentWriteTest::newManager()
 {
-    Manager manager({text("B"), text("A")}, /*mergeOnApply=*/false);
+    Manager manager({"B"_s, "A"_s}, /*mergeOnApply=*/false);
     const QByteArray expected = R"(<?xml version="1.0" encoding="UTF-8"?>
 <ViewData Version="1.1.0">
     <Groups>
@@ -62,7 +66,7 @@ void DocumentWriteTest::newManager()
 
 void DocumentWriteTest::viewsAndMarks()
 {
-    Manager manager({text("A"), text("B")}, /*mergeOnApply=*/false);
+    Manager manager({"A"_s, "B"_s}, /*mergeOnApply=*/false);
     const QByteArray groups =
         group("A", view("z", state("w2", "0A0b") + state("W", "ff") + state("w1", "00"), "1") +
                        view("a", userData("text"))) +
@@ -106,24 +110,23 @@ void DocumentWriteTest::viewsAndMarks()
 
 void DocumentWriteTest::activeViewIsNotMarkedUnlessAsked()
 {
-    Manager manager({text("A")}, /*mergeOnApply=*/false);
-    QVERIFY(manager.saveCurrentViewAs(text("v")));
-    QVERIFY(manager.createView(text("w")));
+    Manager manager({"A"_s}, /*mergeOnApply=*/false);
+    QVERIFY(manager.saveCurrentViewAs("v"_s));
+    QVERIFY(manager.createView("w"_s));
     const QByteArray unmarked = manager.toXml(/*markActive=*/false);
     const QByteArray marked = manager.toXml(/*markActive=*/true);
     QVERIFY(!unmarked.contains("Active"));
     QCOMPARE(marked.count("Active"), 1);
     QCOMPARE(QByteArray(marked).replace("<View Active=\"true\" Name=\"v\">", "<View Name=\"v\">"),
              unmarked);
-    QCOMPARE(manager.activeView(), text("v"));
+    QCOMPARE(manager.activeView(), "v"_s);
 }
 
 void DocumentWriteTest::liveLayoutBecomesTheCurrentViewOfTheActiveGroup()
 {
     QMainWindow window;
-    WindowOwner owner;
-    owner.windows = {{text("w"), &window}, {QString(), &window}};
-    Manager manager({text("A"), text("B")}, /*mergeOnApply=*/false);
+    Owner owner({{"w"_s, &window}, {QString(), &window}});
+    Manager manager({"A"_s, "B"_s}, /*mergeOnApply=*/false);
     const QByteArray current = state("w", "aa") + state("gone", "bb");
     QVERIFY(manager.fromXml(document(group("A", {}, current) + group("B", {}, current)),
                             /*merge=*/false));
@@ -155,9 +158,8 @@ void DocumentWriteTest::liveLayoutBecomesTheCurrentViewOfTheActiveGroup()
 void DocumentWriteTest::toolBarStates()
 {
     QMainWindow window;
-    WindowOwner owner;
-    owner.windows = {{text("b"), &window}, {text("a"), &window}};
-    Manager manager({text("A")}, /*mergeOnApply=*/true);
+    Owner owner({{"b"_s, &window}, {"a"_s, &window}});
+    Manager manager({"A"_s}, /*mergeOnApply=*/true);
     manager.registerManagable(owner);
     const QByteArray expected = R"(<?xml version="1.0" encoding="UTF-8"?>
 <ViewData Version="1.1.0">
@@ -183,12 +185,12 @@ void DocumentWriteTest::names_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QByteArray>("written");
     QTest::newRow("empty") << QString() << QByteArray();
-    QTest::newRow("markup") << text("<a & \"b\">") << QByteArray("&lt;a &amp; &quot;b&quot;&gt;");
-    QTest::newRow("apostrophe") << text("it's") << QByteArray("it's");
-    QTest::newRow("blanks") << text("  a  ") << QByteArray("  a  ");
+    QTest::newRow("markup") << "<a & \"b\">"_s << QByteArray("&lt;a &amp; &quot;b&quot;&gt;");
+    QTest::newRow("apostrophe") << "it's"_s << QByteArray("it's");
+    QTest::newRow("blanks") << "  a  "_s << QByteArray("  a  ");
     QTest::newRow("UTF-8") << QString::fromUtf8("\xC3\xA9\xF0\x9F\x98\x80")
                            << QByteArray("\xC3\xA9\xF0\x9F\x98\x80");
-    QTest::newRow("reserved") << text("__current__") << QByteArray("__current__");
+    QTest::newRow("reserved") << "__current__"_s << QByteArray("__current__");
 }
 
 void DocumentWriteTest::names()
@@ -206,11 +208,11 @@ void DocumentWriteTest::names()
 
 void DocumentWriteTest::emitsNothing()
 {
-    Manager manager({text("A")}, /*mergeOnApply=*/true);
-    QVERIFY(manager.createView(text("v")));
-    const SignalRecord record(manager);
+    Manager manager({"A"_s}, /*mergeOnApply=*/true);
+    QVERIFY(manager.createView("v"_s));
+    const SignalLog log(manager, SignalLog::SignalsAndModel);
     (void)manager.toXml(true);
-    QCOMPARE(record.lines, QStringList());
+    QCOMPARE(log.lines(), QStringList());
 }
 
 QTEST_MAIN(DocumentWriteTest)

@@ -3,7 +3,7 @@
 
 #include <QTextCodec>
 
-using namespace Panorel::DocumentTests;
+using namespace Panorel::Tests;
 
 namespace {
 

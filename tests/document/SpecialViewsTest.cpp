@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "DocumentFixture.h"
+#include "support/SignalLog.h"
+
+#include <panorel/Manager.h>
 
 #include <QtTest>
 
 using namespace Panorel;
-using namespace Panorel::DocumentTests;
+using namespace Panorel::Tests;
 
 namespace {
 
@@ -62,16 +65,16 @@ private:
 void SpecialViewsTest::init()
 {
     m_manager = std::make_unique<Manager>(names("A,B"), /*mergeOnApply=*/false);
-    QVERIFY(m_manager->createView(text("own")));
+    QVERIFY(m_manager->createView("own"_s));
 }
 
 void SpecialViewsTest::notSetAtFirst()
 {
     QFETCH(Special, special);
-    const SignalRecord record(*m_manager);
+    const SignalLog log(*m_manager, SignalLog::SignalsAndModel);
     QVERIFY(!(m_manager.get()->*special.isSet)());
     QVERIFY(!(m_manager.get()->*special.activate)());
-    QCOMPARE(record.lines, QStringList());
+    QCOMPARE(log.lines(), QStringList());
     QCOMPARE(m_manager->views(), names("own"));
 }
 
@@ -79,24 +82,25 @@ void SpecialViewsTest::setting()
 {
     QFETCH(Special, special);
     QFETCH(Special, other);
-    const SignalRecord record(*m_manager);
+    const SignalLog log(*m_manager, SignalLog::SignalsAndModel);
     const QByteArray data = document(group("A", view("special", {}, "1")));
     QVERIFY((m_manager.get()->*special.setDocument)(data));
     QVERIFY((m_manager.get()->*special.setDocument)(data));
     QVERIFY((m_manager.get()->*special.isSet)());
     QVERIFY(!(m_manager.get()->*other.isSet)());
-    const QString line = QStringLiteral("%1(true) [own] null").arg(text(special.signal));
-    QCOMPARE(record.lines, QStringList({line, line}));
+    const QString line =
+        QStringLiteral("%1(true) [A: own; active null]").arg(QString::fromLatin1(special.signal));
+    QCOMPARE(log.lines(), QStringList({line, line}));
 }
 
 void SpecialViewsTest::refusedDocumentKeepsTheEarlierOne()
 {
     QFETCH(Special, special);
     QVERIFY((m_manager.get()->*special.setDocument)(document(group("A", view("special")))));
-    const SignalRecord record(*m_manager);
+    const SignalLog log(*m_manager, SignalLog::SignalsAndModel);
     for (const QByteArray& data : {QByteArray(), QByteArray(""), QByteArray("<ViewData/>")})
         QVERIFY(!(m_manager.get()->*special.setDocument)(data));
-    QCOMPARE(record.lines, QStringList());
+    QCOMPARE(log.lines(), QStringList());
     QVERIFY((m_manager.get()->*special.isSet)());
     QVERIFY((m_manager.get()->*special.activate)());
     QCOMPARE(m_manager->views(), names("special"));
@@ -109,12 +113,12 @@ void SpecialViewsTest::activationReplacesAllViews()
     QVERIFY((m_manager.get()->*other.setDocument)(document({})));
     QVERIFY((m_manager.get()->*special.setDocument)(document(group("A", view("s", {}, "1")))));
     const QStringList expected = {
-        text("viewActivated('') [own] null"),   text("groupModified() [own] null"),
-        text("viewActivated(null) [own] null"), text("groupModified() [] null"),
-        text("groupModified() [s] 's'"),        text("viewActivated('s') [s] 's'")};
-    const SignalRecord record(*m_manager);
+        "viewActivated('') [A: own; active null]"_s,   "groupModified() [A: own; active null]"_s,
+        "viewActivated(null) [A: own; active null]"_s, "groupModified() [A: ; active null]"_s,
+        "groupModified() [A: s; active 's']"_s,        "viewActivated('s') [A: s; active 's']"_s};
+    const SignalLog log(*m_manager, SignalLog::SignalsAndModel);
     QVERIFY((m_manager.get()->*special.activate)());
-    QCOMPARE(record.lines, expected);
+    QCOMPARE(log.lines(), expected);
     // It is kept, and so is the other one, which has no views.
     m_manager->clear();
     QVERIFY((m_manager.get()->*special.activate)());

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "DocumentJudge.h"
 
-using namespace Panorel::DocumentTests;
+using namespace Panorel::Tests;
 
 namespace {
 

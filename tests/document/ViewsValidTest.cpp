@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "DocumentFixture.h"
+#include "support/Owner.h"
+#include "support/SignalLog.h"
+#include "support/SmallWindow.h"
+
+#include <panorel/Manager.h>
 
 #include <QtTest>
 
 using namespace Panorel;
-using namespace Panorel::DocumentTests;
+using namespace Panorel::Tests;
 
 /** Whether the saved views fit the windows. */
 class ViewsValidTest : public QObject
@@ -46,8 +51,7 @@ void ViewsValidTest::idsMustBeTheSame()
     QFETCH(QByteArray, groups);
     QFETCH(bool, valid);
     QMainWindow window;
-    WindowOwner owner;
-    owner.windows = {{text("w"), &window}, {text("v"), &window}, {QString(), &window}};
+    Owner owner({{"w"_s, &window}, {"v"_s, &window}, {QString(), &window}});
     Manager merging(names("A,B"), /*mergeOnApply=*/true);
     merging.registerManagable(owner);
     QVERIFY(merging.fromXml(document(groups), /*merge=*/false));
@@ -61,36 +65,35 @@ void ViewsValidTest::idsMustBeTheSame()
 void ViewsValidTest::windowsMayChange()
 {
     QMainWindow window;
-    WindowOwner owner;
+    Owner owner;
     Manager manager(names("A"), /*mergeOnApply=*/true);
     manager.registerManagable(owner);
-    owner.windows = {{text("v"), &window}};
-    QVERIFY(manager.createView(text("a")));
+    owner.windows = {{"v"_s, &window}};
+    QVERIFY(manager.createView("a"_s));
     QVERIFY(manager.viewsValid());
-    owner.windows = {{text("v"), &window}, {text("w"), &window}};
+    owner.windows = {{"v"_s, &window}, {"w"_s, &window}};
     QVERIFY(!manager.viewsValid());
     owner.windows = {};
     QVERIFY(!manager.viewsValid());
-    manager.deleteView(text("a"));
+    manager.deleteView("a"_s);
     QVERIFY(manager.viewsValid());
 }
 
 void ViewsValidTest::changesNothing()
 {
     SmallWindow window;
-    WindowOwner owner;
-    owner.windows = {{text("w"), &window}};
+    Owner owner({{"w"_s, &window}});
     Manager manager(names("A"), /*mergeOnApply=*/true);
     manager.registerManagable(owner);
-    QVERIFY(manager.saveCurrentViewAs(text("left")));
-    window.addDockWidget(Qt::RightDockWidgetArea, window.dock);
-    const SignalRecord record(manager);
+    QVERIFY(manager.saveCurrentViewAs("left"_s));
+    window.moveDock(Qt::RightDockWidgetArea);
+    const SignalLog log(manager, SignalLog::SignalsAndModel);
     QVERIFY(manager.viewsValid());
-    QCOMPARE(record.lines, QStringList());
-    QCOMPARE(window.dockWidgetArea(window.dock), Qt::RightDockWidgetArea);
+    QCOMPARE(log.lines(), QStringList());
+    QCOMPARE(window.dockArea(), Qt::RightDockWidgetArea);
     // Reading nothing applies the current view, which still is the one saved first.
     QVERIFY(manager.fromXml(document({}), /*merge=*/true));
-    QCOMPARE(window.dockWidgetArea(window.dock), Qt::LeftDockWidgetArea);
+    QCOMPARE(window.dockArea(), Qt::LeftDockWidgetArea);
 }
 
 QTEST_MAIN(ViewsValidTest)

@@ -1,43 +1,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "support/Text.h"
-
-#include <QStringList>
-#include <QtGlobal>
+#include "support/MessageWatch.h"
 
 namespace Panorel::Tests {
 
-/** Collects what is logged while it lives, so that a test can insist on silence. One at a time. */
-class LogLines
+/** A watch that lasts as long as it lives, for a test or a part of one that insists on silence. */
+class LogLines : private MessageWatch
 {
 public:
-    LogLines()
-    {
-        collected().clear();
-        m_previous = qInstallMessageHandler(collect);
-    }
-    ~LogLines() { qInstallMessageHandler(m_previous); }
+    LogLines() { start(); }
+    ~LogLines() { finish(); }
     LogLines(const LogLines&) = delete;
     LogLines& operator=(const LogLines&) = delete;
 
-    QStringList lines() const { return collected(); }
-
-private:
-    static QStringList& collected()
-    {
-        static QStringList lines;
-        return lines;
-    }
-
-    static void collect(QtMsgType, const QMessageLogContext&, const QString& message)
-    {
-        // The offscreen platform says so for every window that is shown.
-        if (!message.startsWith("This plugin does not support "_s))
-            collected().append(message);
-    }
-
-    QtMessageHandler m_previous = nullptr;
+    QStringList lines() const { return messages(); }
 };
 
 } // namespace Panorel::Tests

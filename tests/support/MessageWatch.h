@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
+#include <QLatin1String>
 #include <QMessageLogContext>
 #include <QStringList>
 #include <QtGlobal>
@@ -15,7 +17,8 @@ namespace Panorel::Tests {
  *     void init() { m_watch.start(); }
  *     void cleanup() { QCOMPARE(m_watch.finish(), QStringList()); }
  *
- * One watch at a time; messages of other threads are not expected.
+ * One watch at a time; messages of other threads are not expected. What Qt's platforms say of
+ * windows is left out.
  */
 class MessageWatch
 {
@@ -29,14 +32,23 @@ public:
     /** The messages that came, oldest first. */
     QStringList finish()
     {
-        qInstallMessageHandler(m_previous);
+        // Not when init() failed before it began.
+        if (m_previous)
+            qInstallMessageHandler(std::exchange(m_previous, nullptr));
         return std::exchange(s_messages, QStringList());
     }
 
+protected:
+    static QStringList messages() { return s_messages; }
+
 private:
-    static void keep(QtMsgType, const QMessageLogContext&, const QString& message)
+    static void keep(QtMsgType, const QMessageLogContext& context, const QString& message)
     {
-        s_messages.append(message);
+        const bool fromPlatform =
+            QByteArray(context.category).startsWith("qt.qpa") ||
+            message.startsWith(QLatin1String("This plugin does not support "));
+        if (!fromPlatform)
+            s_messages.append(message);
     }
 
     inline static QStringList s_messages;
