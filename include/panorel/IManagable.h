@@ -22,12 +22,14 @@ struct ManagedWindow
 
 /**
  * Implemented by the application's objects that own main windows, and registered with
- * Manager::registerManagable(). The Manager never deletes an IManagable.
+ * Manager::registerManagable(). The Manager never deletes an IManagable, which must outlive it or
+ * at least its last capture and restore. GUI thread only.
  */
 class PANOREL_EXPORT IManagable
 {
 public:
     IManagable() = default;
+    /** Nothing is unregistered: a Manager must not capture or restore after this. */
     virtual ~IManagable() = 0;
 
     /**
@@ -40,7 +42,9 @@ public:
     virtual QList<ManagedWindow> managedWindows() = 0;
 
 protected:
+    /** For an implementation that is copied. The copy is another owner, not yet registered. */
     IManagable(const IManagable&) = default;
+    /** Copies nothing, for there is nothing here. Registrations stay as they are. */
     IManagable& operator=(const IManagable&) = default;
 };
 

@@ -57,9 +57,12 @@ public:
      * becomes active. Give at least one: without any there is a single group without a name.
      * @param mergeOnApply when true, restoring a layout brings back its dock widgets while the tool
      * bars stay as they are; when false, both come back.
+     * @param parent deletes the Manager with itself; may be null.
+     *
      * Touches no window and emits nothing.
      */
     Manager(const QStringList& groups, bool mergeOnApply, QObject* parent = nullptr);
+    /** Deletes groups and views. Nothing is captured or stored, no window is touched. */
     ~Manager() override;
 
     /**
@@ -83,6 +86,7 @@ public:
      * Saves the live layout as a new view of the active group, after all others. The active view
      * and the windows stay as they are.
      * @return false for a name that a saved view of the group has already.
+     *
      * Emits groupModified().
      */
     bool createView(const QString& name);
@@ -91,12 +95,15 @@ public:
      * Saves the live layout under @p name, in a new view or over the existing one, and makes that
      * view the active one. The windows stay as they are.
      * @return true, always.
+     *
      * Emits groupModified() if the view is new, then viewActivated(name).
      */
     bool saveCurrentViewAs(const QString& name);
 
     /**
-     * Removes the saved view, if there is one of this name; the windows stay as they are.
+     * Removes the saved view, if there is one of this name, and does nothing otherwise; the windows
+     * stay as they are.
+     *
      * Emits viewActivated with an empty string if it was the active view, while views() still
      * names it, then groupModified().
      */
@@ -105,6 +112,7 @@ public:
     /**
      * Removes all saved views of all groups. Current views, windows, registered objects and the two
      * special documents stay.
+     *
      * Emits viewActivated with an empty string and groupModified(), both before anything changes;
      * then viewActivated with a null string while the active group's views still exist, and
      * groupModified() once they are gone.
@@ -120,7 +128,7 @@ public:
 
     /**
      * The whole model as one XML document in UTF-8. The live layout becomes the active group's
-     * current view first; nothing is emitted.
+     * current view first; nothing is emitted. Cannot fail.
      * @param markActive whether each group's active view is marked, so that fromXml() finds it.
      *
      * User data is written as text; a value that has no text form is written empty. Characters that
@@ -129,7 +137,9 @@ public:
     QByteArray toXml(bool markActive);
 
     /**
-     * Reads a document written by toXml() and restores the active group's current view.
+     * Reads a document written by toXml() and restores the active group's current view. With
+     * mergeOnApply the windows first get the tool-bar states that the document holds.
+     * @param data the bytes of the document, in UTF-8 or what they declare.
      * @param merge false: the document replaces all saved views. true: it is laid over them; views
      * it does not name stay, and so does a group's active view if the document marks none.
      * @return false for a document that does not satisfy the schema; nothing has changed then and
@@ -157,10 +167,11 @@ public:
      * read yet.
      * @return false, with the earlier one kept, for empty data and for a document that does not
      * satisfy the schema.
+     *
      * Emits factoryDefaultViewChanged(true).
      */
     bool setFactoryDefaultView(const QByteArray& data);
-    /** As setFactoryDefaultView(), for the program start. Emits programStartViewChanged(true). */
+    /** As setFactoryDefaultView(), for the program start; emits programStartViewChanged(true). */
     bool setProgramStartView(const QByteArray& data);
     /** True when a factory-default document is kept. */
     bool factoryDefaultViewSet() const;
@@ -172,8 +183,8 @@ Q_SIGNALS:
     void groupModified();
     /** The group is active and its current view is on the windows. */
     void groupActivated(const QString& name);
-    /** The view is active and on the windows. Empty or null when no view is active: empty from
-        deleteView() and at the start of clear(), null from the other operations. */
+    /** The view is active and on the windows. The name is empty or null when no view is active:
+        empty from deleteView() and at the start of clear(), null from the other operations. */
     void viewActivated(const QString& name);
     /** Never emitted. */
     void viewUserDataChanged(const QVariant& userData);
@@ -187,6 +198,7 @@ public Q_SLOTS:
      * Keeps the live layout as the current view of the group that is left, and restores the current
      * view of group @p name, in full even if that group is active already.
      * @return false for a name that no group has.
+     *
      * Emits groupActivated(name), then viewActivated with the group's active view, null if none.
      */
     bool activateGroup(const QString& name);
@@ -195,6 +207,7 @@ public Q_SLOTS:
      * Makes a saved view of the active group its active and its current view and restores it. The
      * live layout is not saved first.
      * @return false for an empty name and for one that no saved view has.
+     *
      * Emits viewActivated(name) last, when the windows already show the layout.
      */
     bool activateView(const QString& name);
@@ -202,7 +215,8 @@ public Q_SLOTS:
     /**
      * Replaces all saved views by the factory-default document, as fromXml(document, false) does,
      * with its signals.
-     * @return false, with nothing changed and nothing emitted, when none is set.
+     * @return false, with nothing changed and nothing emitted, when none is set; else what
+     * fromXml() returns, so a document of another version gives true and leaves no saved views.
      */
     bool activateFactoryDefaultView();
     /** As activateFactoryDefaultView(), for the program-start document. */

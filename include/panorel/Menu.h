@@ -33,14 +33,23 @@ class PANOREL_EXPORT Menu : public QMenu
     Q_OBJECT
 
 public:
-    /** @param extended whether the file and reset entries are there. */
+    /**
+     * @param manager not null; not owned, and must outlive the menu.
+     * @param extended whether the file and reset entries are there.
+     * @param parent deletes the menu with itself; may be null.
+     *
+     * The title is "Layouts" in the user's language. The fonts of the entries are the application's
+     * font at this moment.
+     */
     Menu(Manager* manager, bool extended, QWidget* parent = nullptr);
     ~Menu() override;
 
 public Q_SLOTS:
-    /** Rebuilds the view entries and both sub-menus. Text typed but not confirmed is lost. */
+    /** Rebuilds the view entries and both sub-menus, then updateSelection(). Text typed but not
+        confirmed is lost. */
     void updateMenu();
-    /** Puts the check mark on the active view; without one, on none. */
+    /** Puts the check mark on the active view; without one, on none. It stays where it was if no
+        entry has the active view's name. */
     void updateSelection();
     /** Activates the next view after the checked one that is not skipped, from the last on to the
         first. Does nothing when there is no other. */

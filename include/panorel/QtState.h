@@ -61,12 +61,17 @@ public:
                 /** A dock widget or a nested block. */
                 struct PANOREL_EXPORT Item
                 {
+                    /** A dock widget without a name. */
                     Item();
                     /** Copies the nested block too, to any depth. */
                     Item(const Item& other);
+                    /** Leaves @p other without a nested block. */
                     Item(Item&& other) noexcept;
+                    /** Copies the nested block too, to any depth. */
                     Item& operator=(const Item& other);
+                    /** Leaves @p other without a nested block, unless assigned to itself. */
                     Item& operator=(Item&& other) noexcept;
+                    /** Destroys the nested block too, to any depth. */
                     ~Item();
 
                     /** False for a dock widget, true for a nested block. */
@@ -75,9 +80,11 @@ public:
                     QString objectName;
                     /** Qt's state flags of the dock widget: bit 0 visible, bit 1 floating. */
                     unsigned char flags = 0;
-                    /** Carried, not interpreted. */
+                    /** Carried, not interpreted. Qt writes x, y, width and height of a floating
+                        dock widget, else position, extent and two zeros, in device-independent
+                        pixels. */
                     int values[4] = {0, 0, 0, 0};
-                    /** The nested block; null for a dock widget. */
+                    /** The nested block, owned; null for a dock widget. */
                     std::unique_ptr<Block> subBlock;
 
                 private:
@@ -91,6 +98,7 @@ public:
                 int currentIndex = 0;
                 /** Qt::Orientation as stored, not validated. */
                 unsigned char orientation = 0;
+                /** In the order in which they are laid out, or of their tabs. */
                 std::vector<Item> items;
             };
 
@@ -98,10 +106,13 @@ public:
             int area = 0;
             /** Extent of the dock area. */
             QSize size;
+            /** All that the area holds. */
             Block block;
         };
 
+        /** The dock records in reading order; see read() for what later ones repeat. */
         std::vector<Dock> docks;
+        /** Extent of the central widget's area. */
         QSize centralWidgetSize;
         /** Qt::DockWidgetArea owning each corner: top-left, top-right, bottom-left, bottom-right;
             not validated. */
@@ -111,6 +122,7 @@ public:
     /** One tool-bar section. */
     struct ToolBarAreaLayout
     {
+        /** A tool bar. */
         struct Item
         {
             /** The tool bar's objectName; null and empty are kept apart. */
@@ -122,15 +134,18 @@ public:
             QPoint values[4];
         };
 
+        /** Tool bars in one row or column. */
         struct Line
         {
-            /** Position of the line as in Dock::area; not validated. */
+            /** Position of the line: 0 left, 1 right, 2 top, 3 bottom; not validated. */
             int area = 0;
+            /** The tool bars in stored order; see read() for those that later lines repeat. */
             std::vector<Item> items;
         };
 
         /** True when the items carry four values, false for three. */
         bool extended = false;
+        /** The lines in reading order. */
         std::vector<Line> lines;
     };
 
@@ -138,6 +153,7 @@ public:
     QtState();
     /** A deep copy. */
     QtState(const QtState& other);
+    /** Nested blocks of any depth are destroyed without recursion. */
     ~QtState();
 
     /**
@@ -173,7 +189,8 @@ public:
      */
     static QtState merge(const QtState& a, const QtState& b);
 
-    /** Creates the file, or empties it if it exists; nothing is written. Failure is not told. */
+    /** Creates the file @p fileName, or empties it if it exists; nothing is written. Failure is not
+        told. */
     void dump(const QString& fileName) const;
 
     /** True exactly when the version is -1: empty, cleared, or read from a blob that says so. */

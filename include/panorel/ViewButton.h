@@ -22,6 +22,11 @@ class PANOREL_EXPORT ViewButton : public QToolButton
     Q_OBJECT
 
 public:
+    /**
+     * @param manager not null; not owned, and must outlive the button.
+     * @param text shown as it is, whichever view is active.
+     * @param parent deletes the button with itself; may be null.
+     */
     ViewButton(Manager* manager, const QString& text, QWidget* parent = nullptr);
     ~ViewButton() override;
 
