@@ -15,10 +15,10 @@ public:
     EditorWindow()
     {
         setCentralWidget(new QTextEdit);
-        addDock(QStringLiteral("files"), tr("Files"), Qt::LeftDockWidgetArea);
-        addDock(QStringLiteral("outline"), tr("Outline"), Qt::LeftDockWidgetArea);
-        addDock(QStringLiteral("output"), tr("Output"), Qt::BottomDockWidgetArea);
-        addToolBar(tr("Edit"))->setObjectName(QStringLiteral("edit"));
+        addDock(QStringLiteral("files"), QStringLiteral("Files"), Qt::LeftDockWidgetArea);
+        addDock(QStringLiteral("outline"), QStringLiteral("Outline"), Qt::LeftDockWidgetArea);
+        addDock(QStringLiteral("output"), QStringLiteral("Output"), Qt::BottomDockWidgetArea);
+        addToolBar(QStringLiteral("Edit"))->setObjectName(QStringLiteral("edit"));
     }
 
     QList<Panorel::ManagedWindow> managedWindows() override

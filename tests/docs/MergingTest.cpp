@@ -47,6 +47,7 @@ private Q_SLOTS:
     void docksComeFromTheViewAndBarsStay();
     void thePlaceOfABarComesBackWithTheDocument();
     void layoutsGrow();
+    void thoseWithDocksOnOneSideDoNot();
     void theCureKeepsThemAsTheyAre();
     void theCureKeepsTheArrangement_data();
     void theCureKeepsTheArrangement();
@@ -92,6 +93,16 @@ void MergingTest::layoutsGrow()
     const QVector<int> sizes = sizesInRounds(window, manager, 4);
     for (int i = 1; i < sizes.size(); ++i)
         QVERIFY2(sizes[i] > sizes[i - 1], qPrintable(QString::number(sizes[i])));
+}
+
+void MergingTest::thoseWithDocksOnOneSideDoNot()
+{
+    EditorWindow window;
+    window.addDockWidget(Qt::LeftDockWidgetArea, dockOf(window, "output"_s));
+    const int size = window.saveState().size();
+    Manager manager({"Group"_s}, /*mergeOnApply=*/true);
+    manager.registerManagable(window);
+    QCOMPARE(sizesInRounds(window, manager, 3), QVector<int>({size, size, size}));
 }
 
 void MergingTest::theCureKeepsThemAsTheyAre()

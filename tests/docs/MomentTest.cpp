@@ -7,6 +7,7 @@
 #include <panorel/Manager.h>
 
 #include <QDockWidget>
+#include <QGuiApplication>
 #include <QMainWindow>
 #include <QTest>
 #include <QTextEdit>
@@ -54,6 +55,7 @@ private Q_SLOTS:
     void soDoesOneRestoredRightAfterShow();
     void oneRestoredWhenTheWindowIsOnTheScreenGetsItsOwn();
     void severalWindowsAreWaitedFor();
+    void anIconIsWaitedFor();
     void aWindowOfItsSavedSizeMayBeRestoredBefore();
 
 private:
@@ -144,6 +146,23 @@ void MomentTest::severalWindowsAreWaitedFor()
     QVERIFY(QTest::qWaitForWindowExposed(&second));
     QCoreApplication::processEvents();
     QCOMPARE(calls, 1);
+}
+
+void MomentTest::anIconIsWaitedFor()
+{
+    if (QGuiApplication::platformName() == "offscreen"_s)
+        QSKIP("Nothing is an icon on this platform.");
+    Window icon;
+    Window shown; // For something to wait for.
+    bool isCalled = false;
+    icon.showMinimized();
+    new WhenShown({&icon}, [&isCalled] { isCalled = true; });
+    shown.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&shown));
+    QCoreApplication::processEvents();
+    QVERIFY(!isCalled);
+    icon.showNormal();
+    QTRY_VERIFY(isCalled);
 }
 
 void MomentTest::aWindowOfItsSavedSizeMayBeRestoredBefore()

@@ -70,6 +70,7 @@ class NamesTest : public QObject
 private Q_SLOTS:
     void aDockWithoutANameIsNotRestored();
     void qtWarnsOfItWhenALayoutIsSaved();
+    void twoOfOneNameChangePlaces();
     void theCheckFindsIt();
     void aLateDockGetsItsPlace_data();
     void aLateDockGetsItsPlace();
@@ -105,6 +106,21 @@ void NamesTest::qtWarnsOfItWhenALayoutIsSaved()
     manager.createView("Mine"_s);
     QCOMPARE(log.lines().size(), 1);
     QVERIFY(log.lines().first().contains("'objectName' not set for QDockWidget"_s));
+}
+
+void NamesTest::twoOfOneNameChangePlaces()
+{
+    EditorWindow window;
+    QDockWidget* files = dockOf(window, "files"_s);
+    QDockWidget* outline = dockOf(window, "outline"_s);
+    outline->setObjectName("files"_s);
+    window.addDockWidget(Qt::BottomDockWidgetArea, files);
+    Manager manager({"Group"_s}, /*mergeOnApply=*/false);
+    manager.registerManagable(window);
+    manager.saveCurrentViewAs("Mine"_s);
+    QVERIFY(manager.activateView("Mine"_s));
+    QCOMPARE(window.dockWidgetArea(files), Qt::LeftDockWidgetArea);
+    QCOMPARE(window.dockWidgetArea(outline), Qt::BottomDockWidgetArea);
 }
 
 void NamesTest::theCheckFindsIt()

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+// The program after the change; the one before is in MigrationTest.cpp. Called with a folder, which
+// it keeps its settings and layouts in.
+#include "Program.h"
+
+#include <QApplication>
+#include <QDir>
+
+int main(int argc, char* argv[])
+{
+    QApplication app(argc, argv);
+    const QDir folder(QApplication::arguments().value(1));
+    Program program(folder.filePath(QStringLiteral("settings.ini")),
+                    folder.filePath(QStringLiteral("layouts.views")));
+    program.start();
+    const int result = QApplication::exec();
+    program.stop();
+    return result;
+}
