@@ -5,6 +5,7 @@
 #include <QMap>
 #include <QString>
 
+/** All that the library offers. */
 namespace Panorel {
 
 /**
