@@ -16,7 +16,7 @@ file(CREATE_LINK "${PROJECT_SOURCE_DIR}"
 set(options
     "-DCMAKE_BUILD_TYPE=$<CONFIG>"
     "-DCMAKE_CXX_COMPILER=${CMAKE_CXX_COMPILER}"
-    "-DPROGRAM=${PROJECT_SOURCE_DIR}/examples/readme/main.cpp"
+    "-DPROGRAM=${PROJECT_SOURCE_DIR}/examples/01-first-layouts/main.cpp"
     "-DQt5_DIR=${Qt5_DIR}")
 
 add_test(NAME docs.link.installed COMMAND ${CMAKE_CTEST_COMMAND}
