@@ -56,7 +56,9 @@ void FirstLayoutTest::theMenuAndTheButtonFollow()
     auto* menu = new Panorel::Menu(&manager, /*extended=*/true, &window);
     window.menuBar()->addMenu(menu);
     auto* button = new Panorel::ViewButton(&manager, QObject::tr("Layout"), &window);
-    window.addToolBar(QObject::tr("Layouts"))->addWidget(button);
+    QToolBar* bar = window.addToolBar(QObject::tr("Layouts"));
+    bar->setObjectName(QStringLiteral("layouts"));
+    bar->addWidget(button);
     //! [menu]
     manager.createView("Standard"_s);
     manager.saveCurrentViewAs("Wide"_s);
