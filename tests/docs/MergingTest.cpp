@@ -2,6 +2,7 @@
 #include "EditorWindow.h"
 #include "WithoutRepeats.h"
 
+#include "support/RecordedBlobs.h"
 #include "support/Text.h"
 
 #include <panorel/Manager.h>
@@ -52,6 +53,7 @@ private Q_SLOTS:
     void theCureKeepsTheArrangement_data();
     void theCureKeepsTheArrangement();
     void theCureLeavesOtherBytesAlone();
+    void theCureLeavesRecordedLayoutsAlone();
 };
 
 void MergingTest::docksComeFromTheViewAndBarsStay()
@@ -141,13 +143,18 @@ void MergingTest::theCureKeepsTheArrangement()
     manager.saveCurrentViewAs(mine);
     window.addDockWidget(Qt::TopDockWidgetArea, dockOf(window, "outline"_s));
     QVERIFY(manager.activateView(mine));
-    window.restoreState(withoutRepeats(window.saveState()));
-    QCOMPARE(window.dockWidgetArea(dockOf(window, "files"_s)), Qt::LeftDockWidgetArea);
-    QCOMPARE(window.dockWidgetArea(dockOf(window, "outline"_s)), Qt::RightDockWidgetArea);
-    QCOMPARE(window.tabifiedDockWidgets(dockOf(window, "outline"_s)),
-             QList<QDockWidget*>{dockOf(window, "output"_s)});
-    QCOMPARE(tabOnTop(window), dockOf(window, onTop)->windowTitle());
-    QCOMPARE(window.saveState().size(), before.size());
+    const QByteArray grown = window.saveState();
+    QVERIFY(grown.size() > before.size());
+
+    EditorWindow other;
+    other.show();
+    QVERIFY(other.restoreState(withoutRepeats(grown)));
+    QCOMPARE(other.dockWidgetArea(dockOf(other, "files"_s)), Qt::LeftDockWidgetArea);
+    QCOMPARE(other.dockWidgetArea(dockOf(other, "outline"_s)), Qt::RightDockWidgetArea);
+    QCOMPARE(other.tabifiedDockWidgets(dockOf(other, "outline"_s)),
+             QList<QDockWidget*>{dockOf(other, "output"_s)});
+    QCOMPARE(tabOnTop(other), dockOf(other, onTop)->windowTitle());
+    QCOMPARE(other.saveState().size(), before.size());
 }
 
 void MergingTest::theCureLeavesOtherBytesAlone()
@@ -155,6 +162,15 @@ void MergingTest::theCureLeavesOtherBytesAlone()
     QCOMPARE(withoutRepeats("not a layout"), QByteArray("not a layout"));
     EditorWindow window;
     QCOMPARE(withoutRepeats(window.saveState()), window.saveState());
+}
+
+// What real windows have saved that never were restored with merging.
+void MergingTest::theCureLeavesRecordedLayoutsAlone()
+{
+    const auto blobs = recordedBlobs(QFINDTESTDATA("../data/blobs"));
+    QVERIFY(!blobs.empty());
+    for (const auto& blob : blobs)
+        QVERIFY2(withoutRepeats(blob.bytes) == blob.bytes, blob.name.constData());
 }
 
 } // namespace Panorel::Tests

@@ -6,6 +6,9 @@
 #include <QByteArray>
 #include <QStringList>
 
+#include <algorithm>
+#include <cstddef>
+
 //! [without-repeats]
 using Block = Panorel::QtState::DockAreaLayout::Dock::Block;
 
@@ -23,23 +26,17 @@ void keepOwnItems(Records& records, Items itemsOf)
 // Drops the dock widgets whose names have come before: empty places, left over by merging.
 inline void dropKnown(Block& block, QStringList& names)
 {
-    auto& items = block.items;
-    for (std::size_t i = 0; i < items.size();) {
-        auto& item = items[i];
-        if (item.isSequence)
+    const auto isKnown = [&names](const Block::Item& item) {
+        if (item.isSequence) {
             dropKnown(*item.subBlock, names);
-        const bool drop =
-            item.isSequence ? item.subBlock->items.empty() : names.contains(item.objectName);
-        if (!item.isSequence && !drop)
-            names.append(item.objectName);
-        if (!drop) {
-            ++i;
-            continue;
+            return item.subBlock->items.empty();
         }
-        items.erase(items.begin() + static_cast<std::ptrdiff_t>(i));
-        if (static_cast<int>(i) < block.currentIndex)
-            --block.currentIndex;
-    }
+        const bool isThere = names.contains(item.objectName);
+        names.append(item.objectName);
+        return isThere;
+    };
+    auto& items = block.items;
+    items.erase(std::remove_if(items.begin(), items.end(), isKnown), items.end());
 }
 
 // The layout of a window without what merging has added to it.
