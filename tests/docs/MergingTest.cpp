@@ -101,6 +101,8 @@ void MergingTest::thoseWithDocksOnOneSideDoNot()
 {
     EditorWindow window;
     window.addDockWidget(Qt::LeftDockWidgetArea, dockOf(window, "output"_s));
+    window.addToolBarBreak(); // Lines of tool bars do not matter.
+    window.addToolBar("Second"_s)->setObjectName("second"_s);
     const int size = window.saveState().size();
     Manager manager({"Group"_s}, /*mergeOnApply=*/true);
     manager.registerManagable(window);
