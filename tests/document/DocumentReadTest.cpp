@@ -5,6 +5,7 @@
 
 #include <panorel/Manager.h>
 
+#include <QMainWindow>
 #include <QtTest>
 
 using namespace Panorel;

@@ -6,6 +6,7 @@
 
 #include <panorel/Manager.h>
 
+#include <QMainWindow>
 #include <QtTest>
 
 using namespace Panorel;
