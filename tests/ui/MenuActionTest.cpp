@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "support/Owner.h"
 #include "support/SignalLog.h"
+#include "support/SmallWindow.h"
 #include "support/Text.h"
-#include "ui/DockWindow.h"
 #include "ui/Hands.h"
 #include "ui/MenuReading.h"
 
@@ -53,7 +54,8 @@ private:
     bool openNameEditWithKeys();
     bool openWithMouse(QMenu* subMenu);
 
-    std::unique_ptr<DockWindow> m_window;
+    std::unique_ptr<SmallWindow> m_window;
+    Owner m_owner;
     std::unique_ptr<Manager> m_manager;
     std::unique_ptr<SignalLog> m_signals;
     // A child of the window.
@@ -62,9 +64,10 @@ private:
 
 void MenuActionTest::init()
 {
-    m_window = std::make_unique<DockWindow>();
+    m_window = std::make_unique<SmallWindow>();
+    m_owner.windows = {{"Window"_s, m_window.get()}};
     m_manager = std::make_unique<Manager>(lines({"G"}), false);
-    m_manager->registerManagable(*m_window);
+    m_manager->registerManagable(m_owner);
     QVERIFY(m_manager->saveCurrentViewAs("left"_s));
     m_window->moveDock(Qt::RightDockWidgetArea);
     QVERIFY(m_manager->createView("Right"_s));
