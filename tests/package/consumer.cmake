@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# A project of its own uses the library in both ways there are, and runs.
+# A project of its own uses the library in all ways there are, and runs.
 
 panorel_add_package_test(install COMMAND ${CMAKE_COMMAND}
     "-DSOURCE_DIR=${PROJECT_SOURCE_DIR}"
@@ -10,21 +10,35 @@ panorel_add_package_test(install COMMAND ${CMAKE_COMMAND}
     -P "${CMAKE_CURRENT_SOURCE_DIR}/Install.cmake")
 set_tests_properties(package.install PROPERTIES FIXTURES_SETUP package.prefix)
 
-function(panorel_add_consumer_test name)
+# Builds the project in a folder, or only TARGET of it, with further options for its configuration;
+# then runs the program PROGRAM, if given.
+function(panorel_add_build_test name source project)
+    cmake_parse_arguments(PARSE_ARGV 3 arg "" "TARGET;PROGRAM" "")
+    if(arg_TARGET)
+        set(arg_TARGET --build-target ${arg_TARGET})
+    endif()
+    if(arg_PROGRAM)
+        set(arg_PROGRAM --test-command ${arg_PROGRAM})
+    endif()
     panorel_add_package_test(${name} COMMAND ${CMAKE_CTEST_COMMAND}
-        --build-and-test "${CMAKE_CURRENT_SOURCE_DIR}/consumer" "${work}/${name}"
+        --build-and-test "${source}" "${work}/${name}"
         --build-generator "${CMAKE_GENERATOR}"
         --build-makeprogram "${CMAKE_MAKE_PROGRAM}"
-        --build-project Consumer
+        --build-project ${project}
         --build-noclean
+        ${arg_TARGET}
         --build-options
             "-DCMAKE_BUILD_TYPE=$<CONFIG>"
             "-DCMAKE_CXX_COMPILER=${CMAKE_CXX_COMPILER}"
             "-DCMAKE_CXX_FLAGS=${CMAKE_CXX_FLAGS}"
             "-DQt5_DIR=${Qt5_DIR}"
-            "-DPANOREL_VERSION=${PROJECT_VERSION}"
-            ${ARGN}
-        --test-command consumer)
+            ${arg_UNPARSED_ARGUMENTS}
+        ${arg_PROGRAM})
+endfunction()
+
+function(panorel_add_consumer_test name)
+    panorel_add_build_test(${name} "${CMAKE_CURRENT_SOURCE_DIR}/consumer" Consumer
+        "-DPANOREL_VERSION=${PROJECT_VERSION}" ${ARGN} PROGRAM consumer)
 endfunction()
 
 panorel_add_consumer_test(findPackage "-DPANOREL_PREFIX=${prefix}")
@@ -32,3 +46,11 @@ set_tests_properties(package.findPackage PROPERTIES FIXTURES_REQUIRED package.pr
 # With BUILD_TESTING on, as a project with tests of its own has it.
 panorel_add_consumer_test(addSubdirectory "-DPANOREL_SOURCE_DIR=${PROJECT_SOURCE_DIR}"
     -DBUILD_TESTING=ON)
+
+find_program(PKG_CONFIG_EXECUTABLE NAMES pkg-config pkgconf)
+if(UNIX AND PKG_CONFIG_EXECUTABLE)
+    panorel_add_package_test(pkgConfig COMMAND "${CMAKE_CURRENT_SOURCE_DIR}/check-pkg-config"
+        "${PKG_CONFIG_EXECUTABLE}" "${CMAKE_CXX_COMPILER}" "${prefix}" "${CMAKE_INSTALL_LIBDIR}"
+        "${PROJECT_VERSION}" "${work}/pkgConfig")
+    set_tests_properties(package.pkgConfig PROPERTIES FIXTURES_REQUIRED package.prefix)
+endif()

@@ -10,3 +10,16 @@ panorel_add_package_test(imports COMMAND "${CMAKE_CURRENT_SOURCE_DIR}/check-impo
 panorel_add_package_test(dynamicSection COMMAND "${CMAKE_CURRENT_SOURCE_DIR}/check-dynamic-section"
     "${CMAKE_READELF}" "${prefix}/${CMAKE_INSTALL_LIBDIR}" "${PROJECT_VERSION}")
 set_tests_properties(package.dynamicSection PROPERTIES FIXTURES_REQUIRED package.prefix)
+
+get_target_property(applications_start_up TumoAppStartUp::TumoAppStartUp IMPORTED)
+if(NOT applications_start_up)
+    panorel_add_package_test(components COMMAND "${CMAKE_COMMAND}"
+        "-DBUILD_DIR=${PROJECT_BINARY_DIR}"
+        "-DPREFIX=${prefix}"
+        "-DLIBDIR=${CMAKE_INSTALL_LIBDIR}"
+        "-DVERSION=${PROJECT_VERSION}"
+        "-DWORK=${work}/components"
+        "-DEXAMPLES=${PANOREL_BUILD_EXAMPLES}"
+        -P "${CMAKE_CURRENT_SOURCE_DIR}/Components.cmake")
+    set_tests_properties(package.components PROPERTIES FIXTURES_REQUIRED package.prefix)
+endif()

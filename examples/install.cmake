@@ -1,0 +1,23 @@
+# SPDX-License-Identifier: MIT
+# The sources of the examples for reading and building, and the largest of them as a program. Nobody
+# who links the library needs them: cmake --install brings them only with --component examples.
+set(PANOREL_EXAMPLES_DIR "${CMAKE_INSTALL_DATADIR}/doc/panorel-examples")
+
+install(DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}/"
+    DESTINATION "${PANOREL_EXAMPLES_DIR}/examples"
+    COMPONENT examples EXCLUDE_FROM_ALL
+    FILES_MATCHING PATTERN CMakeLists.txt PATTERN README.md PATTERN "*.cpp" PATTERN "*.h"
+    # Their tests use what the library's own tests share.
+    PATTERN tests EXCLUDE
+    PATTERN "*Test.cpp" EXCLUDE)
+# The workbench compiles these and looks for them here, seen from where it lies.
+install(FILES
+    "${Panorel_SOURCE_DIR}/src/ui/NameDialog.cpp"
+    "${Panorel_SOURCE_DIR}/src/ui/NameDialog.h"
+    DESTINATION "${PANOREL_EXAMPLES_DIR}/src/ui"
+    COMPONENT examples EXCLUDE_FROM_ALL)
+
+panorel_install_rpath(workbench "$ORIGIN/../..")
+install(TARGETS workbench
+    RUNTIME DESTINATION "${CMAKE_INSTALL_LIBDIR}/panorel/examples"
+    COMPONENT examples EXCLUDE_FROM_ALL)
