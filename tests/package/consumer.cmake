@@ -54,3 +54,11 @@ if(UNIX AND PKG_CONFIG_EXECUTABLE)
         "${PROJECT_VERSION}" "${work}/pkgConfig")
     set_tests_properties(package.pkgConfig PROPERTIES FIXTURES_REQUIRED package.prefix)
 endif()
+
+find_program(PANOREL_PYTHON python3 HINTS /usr/bin)
+mark_as_advanced(PANOREL_PYTHON)
+if(UNIX AND PANOREL_PYTHON)
+    panorel_add_package_test(recipes COMMAND "${PANOREL_PYTHON}"
+        "${CMAKE_CURRENT_SOURCE_DIR}/check-recipes" "${CMAKE_COMMAND}" "${PROJECT_SOURCE_DIR}"
+        "${PROJECT_VERSION}" "${work}/recipes")
+endif()
