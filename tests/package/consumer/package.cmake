@@ -14,6 +14,8 @@ unset(Panorel_DIR CACHE)
 foreach(other IN ITEMS ${newer} ${older})
     find_package(Panorel ${other}.0 CONFIG QUIET)
     expect_equal("Panorel ${other}.0 found" "${Panorel_FOUND}" 0)
+    # Where /lib is a link to /usr/lib it is met twice.
+    list(REMOVE_DUPLICATES Panorel_CONSIDERED_VERSIONS)
     expect_equal("Considered" "${Panorel_CONSIDERED_VERSIONS}" "${PANOREL_VERSION}")
     unset(Panorel_DIR CACHE)
 endforeach()
