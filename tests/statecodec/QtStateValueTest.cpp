@@ -7,8 +7,11 @@
 
 #include <QtTest>
 
+#include <algorithm>
+#include <functional>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 namespace Panorel::Tests {
 
@@ -24,6 +27,7 @@ private Q_SLOTS:
     void constants();
     void constantsHaveAddresses();
     void fieldTypes();
+    void fieldOrder();
     void newValueIsEmpty();
     void newPartsAreEmpty();
     void isNullLooksAtTheVersionAlone();
@@ -78,6 +82,16 @@ QByteArray fullBlob()
 
 template<auto value, typename Type>
 constexpr bool isConstant = std::is_same_v<decltype(value), Type>;
+
+/** Whether the fields stand in @p whole one behind the other, the first of them at its beginning.
+ */
+template<typename Whole, typename... Fields>
+bool areInOrder(const Whole& whole, const Fields&... fields)
+{
+    const std::vector<const void*> addresses{&fields...};
+    return addresses.front() == &whole &&
+           std::is_sorted(addresses.begin(), addresses.end(), std::less<const void*>());
+}
 
 } // namespace
 
@@ -136,15 +150,46 @@ void QtStateValueTest::fieldTypes()
     static_assert(std::is_same_v<decltype(Block::currentIndex), int>);
     static_assert(std::is_same_v<decltype(Block::orientation), unsigned char>);
     static_assert(std::is_same_v<decltype(Block::items), std::vector<DockItem>>);
+    static_assert(std::is_same_v<decltype(DockItem::isSequence), bool>);
+    static_assert(std::is_same_v<decltype(DockItem::objectName), QString>);
     static_assert(std::is_same_v<decltype(DockItem::flags), unsigned char>);
     static_assert(std::is_same_v<decltype(DockItem::values), int[4]>);
-    static_assert(std::is_same_v<decltype(ToolBarItem::values), QPoint[4]>);
+    static_assert(std::is_same_v<decltype(*DockItem::subBlock), Block&>);
+    static_assert(std::is_same_v<decltype(ToolBarArea::extended), bool>);
+    static_assert(std::is_same_v<decltype(ToolBarArea::lines), std::vector<Line>>);
+    static_assert(std::is_same_v<decltype(Line::area), int>);
+    static_assert(std::is_same_v<decltype(Line::items), std::vector<ToolBarItem>>);
+    static_assert(std::is_same_v<decltype(ToolBarItem::objectName), QString>);
     static_assert(std::is_same_v<decltype(ToolBarItem::shown), unsigned char>);
+    static_assert(std::is_same_v<decltype(ToolBarItem::values), QPoint[4]>);
     static_assert(!std::is_polymorphic_v<QtState>);
     static_assert(std::is_copy_constructible_v<QtState>);
     static_assert(std::is_copy_assignable_v<QtState>);
     static_assert(std::is_nothrow_move_constructible_v<DockItem>);
     QVERIFY(std::is_nothrow_move_constructible_v<Dock>);
+}
+
+// Programs that were linked with one order of the fields read another one wrongly.
+void QtStateValueTest::fieldOrder()
+{
+    const QtState state;
+    QVERIFY(areInOrder(state, state.m_versionMarker, state.m_version, state.m_dockAreaLayouts,
+                       state.m_toolBarAreaLayouts));
+    const DockArea docks;
+    QVERIFY(areInOrder(docks, docks.docks, docks.centralWidgetSize, docks.corners));
+    const Dock dock;
+    QVERIFY(areInOrder(dock, dock.area, dock.size, dock.block));
+    const Block& block = dock.block;
+    QVERIFY(areInOrder(block, block.tabbed, block.currentIndex, block.orientation, block.items));
+    const DockItem item;
+    QVERIFY(
+        areInOrder(item, item.isSequence, item.objectName, item.flags, item.values, item.subBlock));
+    const ToolBarArea toolBars;
+    QVERIFY(areInOrder(toolBars, toolBars.extended, toolBars.lines));
+    const Line line;
+    QVERIFY(areInOrder(line, line.area, line.items));
+    const ToolBarItem toolBar;
+    QVERIFY(areInOrder(toolBar, toolBar.objectName, toolBar.shown, toolBar.values));
 }
 
 void QtStateValueTest::newValueIsEmpty()
