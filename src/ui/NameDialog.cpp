@@ -11,17 +11,6 @@
 
 namespace Panorel {
 
-namespace {
-
-// A red for a light background, or one for a dark one.
-QString errorStyleSheet(const QPalette& palette)
-{
-    const bool dark = palette.color(QPalette::Window).lightness() < 128;
-    return dark ? QStringLiteral("color: #ff9b91") : QStringLiteral("color: #b3261e");
-}
-
-} // namespace
-
 NameDialog::NameDialog(Manager* manager, const QStringList& existingNames, bool allowActiveName,
                        QWidget* parent)
     : QDialog(parent)
@@ -30,7 +19,8 @@ NameDialog::NameDialog(Manager* manager, const QStringList& existingNames, bool 
     , m_buttonBox(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this))
     , m_manager(manager)
     , m_existingNames(existingNames)
-    , m_errorStyleSheet(errorStyleSheet(palette()))
+    // With a ground of its own, for no red can be read on every palette, and palettes change.
+    , m_errorStyleSheet(QStringLiteral("color: #8c1d18; background-color: #f9dedc"))
     , m_allowActiveName(allowActiveName)
 {
     setWindowTitle(tr("Save Layout"));

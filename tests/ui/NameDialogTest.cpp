@@ -13,8 +13,31 @@
 #include <QPushButton>
 #include <QtTest>
 
+#include <algorithm>
+#include <cmath>
+
 using namespace Panorel;
 using namespace Panorel::Tests;
+
+namespace {
+
+// Relative luminance and contrast as WCAG 2.1 defines them.
+double luminance(const QColor& color)
+{
+    const auto linear = [](double part) {
+        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+           0.0722 * linear(color.blueF());
+}
+
+double contrast(const QColor& a, const QColor& b)
+{
+    const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+} // namespace
 
 /** The dialog that asks for a name and checks it while it is typed. */
 class NameDialogTest : public QObject
@@ -32,6 +55,8 @@ private Q_SLOTS:
     void checkedAtEveryKey();
     void activeViewOfTheMoment();
     void lookOfAnError();
+    void errorIsReadable_data();
+    void errorIsReadable();
     void acceptedWithReturn();
     void acceptedWithTheMouse();
     void returnOnNothing();
@@ -44,6 +69,7 @@ private Q_SLOTS:
 private:
     void open(const QStringList& existing, bool allowActiveName);
     bool show();
+    double messageContrast() const;
 
     QLineEdit* edit() const { return m_dialog->findChild<QLineEdit*>(); }
     QLabel* message() const { return m_dialog->findChild<QLabel*>("messageLabel"_s); }
@@ -79,6 +105,15 @@ bool NameDialogTest::show()
     open(m_manager->views(), false);
     m_dialog->show();
     return QTest::qWaitForWindowActive(m_dialog.get());
+}
+
+// What is behind the text is taken from the picture. The text's colour is not: a machine without
+// fonts draws none.
+double NameDialogTest::messageContrast() const
+{
+    const QPoint corner = message()->mapTo(m_dialog.get(), QPoint(0, 0));
+    const QColor ground = m_dialog->grab().toImage().pixelColor(corner);
+    return contrast(message()->palette().color(message()->foregroundRole()), ground);
 }
 
 void NameDialogTest::metaObject()
@@ -199,6 +234,39 @@ void NameDialogTest::lookOfAnError()
     // The dialog's own look is left alone.
     QCOMPARE(m_dialog->styleSheet(), QString());
     QCOMPARE(edit()->styleSheet(), QString());
+}
+
+void NameDialogTest::errorIsReadable_data()
+{
+    QTest::addColumn<QColor>("ground");
+
+    QTest::newRow("white") << QColor(255, 255, 255);
+    QTest::newRow("light") << QColor(239, 239, 239);
+    QTest::newRow("lighter than the middle") << QColor(160, 160, 160);
+    QTest::newRow("middle grey") << QColor(128, 128, 128);
+    QTest::newRow("darker than the middle") << QColor(96, 96, 96);
+    QTest::newRow("dark") << QColor(45, 45, 45);
+    QTest::newRow("black") << QColor(0, 0, 0);
+    QTest::newRow("the colour of an error") << QColor(0xB3, 0x26, 0x1E);
+}
+
+// The least contrast that WCAG 2.1 (1.4.3) gives to text of ordinary size is 4.5.
+void NameDialogTest::errorIsReadable()
+{
+    QFETCH(QColor, ground);
+
+    const bool dark = ground.lightness() < 128;
+    const QPalette palette(dark ? Qt::white : Qt::black, ground, ground, ground, ground,
+                           dark ? Qt::white : Qt::black, ground);
+    QVERIFY(show());
+    QCOMPARE(message()->text(), "Name must not be empty!"_s);
+    QVERIFY2(messageContrast() >= 4.5, "before the palette changes");
+    m_dialog->setPalette(palette);
+    QCOMPARE(m_dialog->grab().toImage().pixelColor(0, 0), ground);
+    QVERIFY2(messageContrast() >= 4.5, "when the palette has changed");
+    edit()->setText("new"_s);
+    edit()->setText("other"_s);
+    QVERIFY2(messageContrast() >= 4.5, "at the next error");
 }
 
 void NameDialogTest::acceptedWithReturn()
