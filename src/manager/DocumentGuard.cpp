@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "DocumentGuard.h"
 
+#include "TagScan.h"
+
 #include <QHash>
 #include <QStack>
 #include <QXmlStreamReader>
@@ -10,9 +12,6 @@ namespace Panorel::Detail {
 namespace {
 
 const QLatin1String schemaInstance("http://www.w3.org/2001/XMLSchema-instance");
-
-// The schema gives no element more than two attributes, and the schema instance namespace has four.
-constexpr int mostAttributes = 6;
 
 // The namespace prefixes that are in scope, counted, for an inner element may declare one again.
 class PrefixScopes

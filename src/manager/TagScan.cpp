@@ -7,9 +7,6 @@ namespace Panorel::Detail {
 
 namespace {
 
-// The schema gives no element more than two attributes, and the schema instance namespace has four.
-constexpr int mostAttributes = 6;
-
 bool isSpace(char character)
 {
     return character == ' ' || character == '\t' || character == '\n' || character == '\r';

@@ -5,6 +5,9 @@
 
 namespace Panorel::Detail {
 
+// The schema gives no element more than two attributes, and the schema instance namespace has four.
+constexpr int mostAttributes = 6;
+
 /**
  * What the tags of a document hold, found without parsing it: a glance at the bytes that spares
  * most documents the slower guards, and one kind of hostile document any reader.
