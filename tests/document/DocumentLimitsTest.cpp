@@ -79,6 +79,9 @@ void DocumentLimitsTest::judge_data()
                  QByteArray("</Group>").repeated(100000)));
     row("a tag with a thousand attributes", false,
         document({}).replace("<ViewData", "<ViewData" + numbered(" a", "=\"\"")));
+    row("a tag with a thousand attributes, encoding in single quotes", false,
+        "<?xml version=\"1.0\" encoding='UTF-8'?>" +
+            document({}).replace("<ViewData", "<ViewData" + numbered(" a", "=\"\"")));
     row("a tag with a thousand namespace declarations", true,
         document({}).replace("<ViewData", "<ViewData" + numbered(" xmlns:a", "=\"urn:x\"")));
     row("entities that grow to 400 letters", true,

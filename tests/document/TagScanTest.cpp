@@ -45,12 +45,15 @@ void TagScanTest::isPlain_data()
     row("no encoding declared", "<?xml version=\"1.0\"?><a/>", true);
     row("blanks first", "\n <a/>", true);
     row("byte order mark", "\xEF\xBB\xBF<a/>", true);
+    row("byte order mark and declaration", "\xEF\xBB\xBF<?xml version=\"1.0\"?><a/>", true);
     row("encoding in a later instruction", "<?xml version=\"1.0\"?><?x encoding=\"y\"?><a/>", true);
     row("comment that looks like a document type", "<a><!-- <!DOCTYPE b> --></a>", true);
     row("CDATA that looks like a document type", "<a><![CDATA[<!DOCTYPE b>]]></a>", true);
     row("instruction that looks like a document type", "<a><?p <!DOCTYPE b>?></a>", true);
 
     row("empty", "", false);
+    row("blanks only", " \t\r\n ", false);
+    row("byte order mark only", "\xEF\xBB\xBF", false);
     row("encoding twice", "<?xml version=\"1.0\" encoding=\"UTF-8\" encoding=\"UTF-7\"?><a/>",
         false);
     row("encoding twice, the other way",
@@ -88,6 +91,7 @@ void TagScanTest::hasOverfullTag_data()
     row("seven, none of them apart", "<a b=''c=''d=''e=''f=''g=''h=''/>", true);
     row("seven in an inner element", "<x><a b='' c='' d='' e='' f='' g='' h=''/></x>", true);
     row("seven behind a comment", "<!-- > --><a b='' c='' d='' e='' f='' g='' h=''/>", true);
+    row("seven behind an empty comment", "<!----><a b='' c='' d='' e='' f='' g='' h=''/>", true);
     row("seven behind an end of a tag in a value", "<a b='>' c='' d='' e='' f='' g='' h=''/>",
         true);
     row("six and three in two tags", "<a b='' c='' d='' e='' f='' g=''><a b='' c='' d=''/></a>",
@@ -99,12 +103,18 @@ void TagScanTest::hasOverfullTag_data()
     row("seven behind blanks", "\r\n\t <a b='' c='' d='' e='' f='' g='' h=''/>", true);
     row("signs in a value", "<a b='========' c=\"========\"/>", false);
     row("signs in text", "<a>=========</a>", false);
+    row("signs behind a tag without a name", "<>=========<a/>", false);
     row("signs in a comment", "<a><!-- <b ========= --></a>", false);
     row("signs in CDATA", "<a><![CDATA[<b =========]]></a>", false);
     row("signs in an instruction", "<a><?b =========?></a>", false);
     row("other quotes in a value", "<a b='\"' c='' d=\"'\" e='' f='' g='' h=''/>", true);
     row("tag that does not end", "<a b='' c='' d='' e='' f='' g='' h=''", true);
     row("value that does not end", "<a b='", false);
+    // Where the encoding is not known for sure the slower guard counts, see DocumentLimitsTest.
+    row("seven, encoding in single quotes",
+        "<?xml version=\"1.0\" encoding='UTF-8'?><a b='' c='' d='' e='' f='' g='' h=''/>", false);
+    row("seven behind a document type", "<!DOCTYPE a><a b='' c='' d='' e='' f='' g='' h=''/>",
+        false);
     row("only a bracket", "<", false);
 }
 
