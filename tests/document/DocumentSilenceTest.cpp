@@ -1,40 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "DocumentFixture.h"
+#include "ErrorOutput.h"
 
 #include <panorel/Manager.h>
 
 #include <QTemporaryFile>
 #include <QtTest>
 
-#include <unistd.h>
-
 using namespace Panorel::Tests;
-
-namespace {
-
-// Qt's schema validator by itself prints to the standard error output and logs nothing, so what is
-// written there is caught, below all C and C++ streams.
-class ErrorOutput
-{
-public:
-    explicit ErrorOutput(QTemporaryFile& file)
-        : m_saved(::dup(STDERR_FILENO))
-    {
-        ::dup2(file.handle(), STDERR_FILENO);
-    }
-    ~ErrorOutput()
-    {
-        ::dup2(m_saved, STDERR_FILENO);
-        ::close(m_saved);
-    }
-    ErrorOutput(const ErrorOutput&) = delete;
-    ErrorOutput& operator=(const ErrorOutput&) = delete;
-
-private:
-    int m_saved;
-};
-
-} // namespace
 
 /** Validation prints nothing, whatever is wrong with a document. */
 class DocumentSilenceTest : public QObject
