@@ -49,6 +49,7 @@ private Q_SLOTS:
     void cleanup();
     void metaObject();
     void parts();
+    void partsStandBelowEachOther();
     void atFirst();
     void checked_data();
     void checked();
@@ -142,6 +143,22 @@ void NameDialogTest::parts()
     QCOMPARE(boxes.size(), 1);
     QCOMPARE(boxes.first()->standardButtons(), QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     QCOMPARE(dialog.findChildren<QLabel*>("messageLabel"_s).size(), 1);
+}
+
+void NameDialogTest::partsStandBelowEachOther()
+{
+    QVERIFY(show());
+    const QList<QLabel*> labels = m_dialog->findChildren<QLabel*>();
+    QCOMPARE(labels.size(), 2);
+    QLabel* const nameLabel = labels[0] == message() ? labels[1] : labels[0];
+    const auto* const box = m_dialog->findChild<QDialogButtonBox*>();
+    int bottom = -1;
+    for (const QWidget* part :
+         std::initializer_list<const QWidget*>{nameLabel, edit(), message(), box}) {
+        QVERIFY(m_dialog->rect().contains(part->geometry()));
+        QVERIFY(part->y() > bottom);
+        bottom = part->geometry().bottom();
+    }
 }
 
 void NameDialogTest::atFirst()
