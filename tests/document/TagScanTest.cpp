@@ -70,6 +70,7 @@ void TagScanTest::isPlain_data()
     row("namespace", "<a xmlns:b=\"c\"/>", false);
     row("namespace, blanks before the sign", "<a xmlns:b  = \"c\"/>", false);
     row("default namespace", "<a xmlns=\"c\"/>", false);
+    row("namespace close behind a value", "<a b=''xmlns='c'/>", false);
     row("namespace deep inside", "<a><b><c d=\"e\" xmlns:x=\"y\"/></b></a>", false);
 }
 
