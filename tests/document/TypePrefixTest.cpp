@@ -97,6 +97,7 @@ void TypePrefixTest::undeclaredPrefixIsRefused_data()
     row("no-break space before", typed("xsi:type=\"\xC2\xA0y:state\""));
     row("the prefix of declarations", typed("xsi:type=\"xmlns:state\""));
     row("the prefix that needs no declaration", typed("xsi:type=\"xml:state\""));
+    row("nothing before the colon", typed("xsi:type=\":state\""));
     row("declared by an earlier sibling", typed(y, type));
     row("declared by a child", typed({}, y, type));
     row("declared in other case", typed(type + declared("Y", "urn:y")));
