@@ -7,7 +7,6 @@
 #include <panorel/Manager.h>
 
 #include <QFile>
-#include <QScopeGuard>
 #include <QTemporaryFile>
 #include <QtEndian>
 #include <QtTest>
@@ -63,6 +62,48 @@ Q_DECL_EXPORT bool qRegisterResourceData(int version, const unsigned char* tree,
     return add(collection);
 }
 
+namespace {
+
+/**
+ * Stands in for the schema as long as it lives: tree and names of the library's own collection,
+ * which holds one file, with another content. That is its length in four bytes, then the content in
+ * the form of qCompress().
+ */
+class OtherContent
+{
+public:
+    explicit OtherContent(const QByteArray& content)
+        : m_content(content)
+    {
+        const QByteArray compressed = qCompress(content);
+        m_data.resize(4);
+        qToBigEndian(compressed.size(), m_data.data());
+        m_data += compressed;
+        add(collection());
+    }
+    ~OtherContent() { withdraw(collection()); }
+    OtherContent(const OtherContent&) = delete;
+    OtherContent& operator=(const OtherContent&) = delete;
+
+    bool isThere() const
+    {
+        QFile file(":/ViewSettingsXsdSchema"_s);
+        return file.open(QIODevice::ReadOnly) && file.readAll() == m_content;
+    }
+
+private:
+    Collection collection() const
+    {
+        return {ours.version, ours.tree, ours.names,
+                reinterpret_cast<const unsigned char*>(m_data.constData())};
+    }
+
+    QByteArray m_content;
+    QByteArray m_data;
+};
+
+} // namespace
+
 /** What becomes of documents when the schema is not among the program's resources, or is none. */
 class SchemaWithdrawnTest : public QObject
 {
@@ -76,6 +117,7 @@ private Q_SLOTS:
     void missingIsSilent();
     void none_data();
     void none();
+    void anotherRoot();
 
 private:
     QByteArray m_document = document(group("A", view("from the document")));
@@ -94,6 +136,7 @@ void SchemaWithdrawnTest::init()
     m_manager = std::make_unique<Manager>(names("A"), /*mergeOnApply=*/false);
     QVERIFY(m_manager->createView("kept"_s));
     QVERIFY(m_manager->setFactoryDefaultView(m_document));
+    QVERIFY(m_manager->setProgramStartView(m_document));
     QVERIFY(withdraw(ours));
     QVERIFY(!QFile::exists(":/ViewSettingsXsdSchema"_s));
 }
@@ -115,10 +158,11 @@ void SchemaWithdrawnTest::missing()
     QVERIFY(!m_manager->setFactoryDefaultView(m_document));
     QVERIFY(!m_manager->setProgramStartView(m_document));
     QVERIFY(!m_manager->activateFactoryDefaultView());
+    QVERIFY(!m_manager->activateProgramStartView());
     QCOMPARE(log.lines(), QStringList());
     QCOMPARE(m_manager->views(), names("kept"));
     QVERIFY(m_manager->factoryDefaultViewSet());
-    QVERIFY(!m_manager->programStartViewSet());
+    QVERIFY(m_manager->programStartViewSet());
 }
 
 void SchemaWithdrawnTest::missingIsSilent()
@@ -149,26 +193,28 @@ void SchemaWithdrawnTest::none_data()
                       "<xs:element name=\"ViewData\" type=\"unknown\"/></xs:schema>");
 }
 
-// Tree and names of the library's own collection, which holds one file, with another content: its
-// length in four bytes, then the content in the form of qCompress().
 void SchemaWithdrawnTest::none()
 {
     QFETCH(QByteArray, content);
-    const QByteArray compressed = qCompress(content);
-    QByteArray data(4, Qt::Uninitialized);
-    qToBigEndian(compressed.size(), data.data());
-    data += compressed;
-    const Collection other{ours.version, ours.tree, ours.names,
-                           reinterpret_cast<const unsigned char*>(data.constData())};
-    QVERIFY(add(other));
-    const auto withdrawOther = qScopeGuard([&] { withdraw(other); });
-    QFile file(":/ViewSettingsXsdSchema"_s);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), content);
+    const OtherContent other(content);
+    QVERIFY(other.isThere());
     QVERIFY(!m_manager->fromXml(m_document, /*merge=*/false));
     QVERIFY(!m_manager->setFactoryDefaultView(m_document));
     QVERIFY(!m_manager->setProgramStartView(m_document));
     QCOMPARE(m_manager->views(), names("kept"));
+}
+
+// Reading does not rely on the schema to know what it reads.
+void SchemaWithdrawnTest::anotherRoot()
+{
+    const OtherContent other("<xs:schema xmlns:xs=\"http://www.w3.org/2001/XMLSchema\">"
+                             "<xs:element name=\"Other\" type=\"xs:string\"/></xs:schema>");
+    QVERIFY(other.isThere());
+    QVERIFY(!m_manager->fromXml(m_document, /*merge=*/true));
+    QVERIFY(m_manager->fromXml("<Other/>", /*merge=*/true));
+    QCOMPARE(m_manager->views(), names("kept"));
+    QVERIFY(m_manager->fromXml("<Other/>", /*merge=*/false));
+    QCOMPARE(m_manager->views(), QStringList());
 }
 
 QTEST_MAIN(SchemaWithdrawnTest)
