@@ -36,6 +36,7 @@ private Q_SLOTS:
     void repeatedByTheNextRecord();
     void builtByHand();
     void deepAndWide();
+    void leafBehindEveryBranch();
 
 private:
     const int m_depth = 200000;
@@ -207,6 +208,31 @@ void QtStateDepthTest::deepAndWide()
     QVERIFY(state.read(blob));
     const QtState copy(state);
     QCOMPARE(difference(copy.write(), blob), QString());
+}
+
+// A release that goes for the leaf first has to come back for the branch.
+void QtStateDepthTest::leafBehindEveryBranch()
+{
+    Block copied;
+    {
+        Block block;
+        Block* innermost = &block;
+        for (int level = 0; level < m_depth; ++level) {
+            innermost->items.resize(2);
+            for (DockItem& item : innermost->items) {
+                item.isSequence = true;
+                item.subBlock = std::make_unique<Block>();
+            }
+            innermost = innermost->items[0].subBlock.get();
+        }
+        copied = block;
+    }
+    int depth = 0;
+    for (const Block* at = &copied; at->items.size() == 2; at = at->items[0].subBlock.get()) {
+        QVERIFY(at->items[1].subBlock->items.empty());
+        ++depth;
+    }
+    QCOMPARE(depth, m_depth);
 }
 
 } // namespace Panorel::Tests
