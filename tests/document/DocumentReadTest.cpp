@@ -137,9 +137,9 @@ void DocumentReadTest::viewContent_data()
     QTest::addColumn<QByteArray>("views");
     QTest::addColumn<QByteArray>("merged");
     QTest::addColumn<QByteArray>("replaced");
-    const auto row = [](const char* name, const QByteArray& views, const QByteArray& merged,
+    const auto row = [](const QByteArray& name, const QByteArray& views, const QByteArray& merged,
                         const QByteArray& replaced) {
-        QTest::newRow(name) << views << merged << replaced;
+        QTest::newRow(name.constData()) << views << merged << replaced;
     };
     const QByteArray none = userData({});
     const QByteArray kept = userData("kept");
@@ -150,6 +150,12 @@ void DocumentReadTest::viewContent_data()
     row("empty user data", view("a", userData({})), none, none);
     row("empty state", view("a", state("w", {})), kept, none);
     row("blank state", view("a", state("w", " ")), kept, none);
+    // An odd or an even number of characters, with the digits at odd or at even places.
+    for (const char* digits : {" d1e2", "d1e2 ", " d1e2 ", "  d1e2", "d1e2  ", "\n d1e2\t",
+                               "\xC2\xA0"
+                               "D1E2\xE3\x80\x80"})
+        row("white space around " + QByteArray(digits).toPercentEncoding(),
+            view("a", state("w", digits)), state("w", "d1e2") + kept, state("w", "d1e2") + none);
     row("an empty state after one of the same id", view("a", state("w", "dd") + state("w", {})),
         state("w", "dd") + kept, state("w", "dd") + none);
     row("an id twice", view("a", state("w", "dd") + state("w", "ee")), state("w", "ee") + kept,
