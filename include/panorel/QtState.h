@@ -89,7 +89,7 @@ public:
 
                 private:
                     static std::unique_ptr<Block> clone(const Block& source);
-                    static void release(std::unique_ptr<Block> block) noexcept;
+                    static void release(Block* block) noexcept;
                 };
 
                 /** True for tabs, false for a sequence. */
@@ -244,7 +244,7 @@ QtState::DockAreaLayout::Dock::Block::Item::operator=(Item&& other) noexcept = d
 inline QtState::DockAreaLayout::Dock::Block::Item::~Item()
 {
     if (subBlock)
-        release(std::move(subBlock));
+        release(subBlock.release());
 }
 
 } // namespace Panorel

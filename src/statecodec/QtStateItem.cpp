@@ -5,9 +5,10 @@
 #include <panorel/QtState.h>
 
 #include <algorithm>
+#include <cstddef>
+#include <cstring>
 #include <iterator>
 #include <memory>
-#include <utility>
 #include <vector>
 
 namespace Panorel {
@@ -15,52 +16,92 @@ namespace Panorel {
 using Block = QtState::DockAreaLayout::Dock::Block;
 using Item = Block::Item;
 
+namespace {
+
+struct Task
+{
+    const Block* from;
+    Block* to;
+};
+
+// A block with as many items, all of them still empty.
+std::unique_ptr<Block> outline(const Block& block)
+{
+    return std::unique_ptr<Block>(new Block{block.tabbed, block.currentIndex, block.orientation,
+                                            std::vector<Item>(block.items.size())});
+}
+
+// The blocks nested in the items get their items later, for which they are left in @p tasks.
+void copyItems(const Task& task, std::vector<Task>& tasks)
+{
+    Item* copy = task.to->items.data();
+    for (const Item& item : task.from->items) {
+        copy->isSequence = item.isSequence;
+        if (!item.objectName.isNull())
+            copy->objectName = item.objectName;
+        copy->flags = item.flags;
+        std::copy(std::begin(item.values), std::end(item.values), std::begin(copy->values));
+        if (item.subBlock) {
+            copy->subBlock = outline(*item.subBlock);
+            tasks.push_back({item.subBlock.get(), copy->subBlock.get()});
+        }
+        ++copy;
+    }
+}
+
+// A block that waits for its destruction has no more use for the values of its first item. Where
+// the next one waits is kept there, for a destructor should not need memory.
+constexpr std::size_t nextSize = sizeof(void*);
+static_assert(nextSize <= sizeof(Item::values));
+
+void setNext(Block& block, Block* next)
+{
+    std::memcpy(block.items.front().values, &next, nextSize);
+}
+
+Block* nextOf(const Block& block)
+{
+    Block* next = nullptr;
+    std::memcpy(&next, block.items.front().values, nextSize);
+    return next;
+}
+
+} // namespace
+
 // Nested blocks are walked with a list of what is still to do instead of recursion: they can nest
 // deeper than any stack.
 
 std::unique_ptr<Block> Item::clone(const Block& source)
 {
-    struct Task
-    {
-        const Block* from;
-        Block* to;
-    };
-    auto result = std::make_unique<Block>();
-    std::vector<Task> tasks{{&source, result.get()}};
+    std::unique_ptr<Block> result = outline(source);
+    std::vector<Task> tasks;
+    copyItems({&source, result.get()}, tasks);
     while (!tasks.empty()) {
         const Task task = tasks.back();
         tasks.pop_back();
-        task.to->tabbed = task.from->tabbed;
-        task.to->currentIndex = task.from->currentIndex;
-        task.to->orientation = task.from->orientation;
-        task.to->items.reserve(task.from->items.size());
-        for (const Item& item : task.from->items) {
-            Item& copy = task.to->items.emplace_back();
-            copy.isSequence = item.isSequence;
-            copy.objectName = item.objectName;
-            copy.flags = item.flags;
-            std::copy(std::begin(item.values), std::end(item.values), std::begin(copy.values));
-            if (item.subBlock) {
-                copy.subBlock = std::make_unique<Block>();
-                tasks.push_back({item.subBlock.get(), copy.subBlock.get()});
-            }
-        }
+        copyItems(task, tasks);
     }
     return result;
 }
 
-void Item::release(std::unique_ptr<Block> block) noexcept
+void Item::release(Block* block) noexcept
 {
-    std::vector<std::unique_ptr<Block>> pending;
-    while (block) {
-        for (Item& item : block->items) {
-            if (item.subBlock)
-                pending.push_back(std::move(item.subBlock));
+    Block* waiting = nullptr;
+    const auto add = [&](Block* added) {
+        if (added->items.empty()) {
+            delete added;
+        } else {
+            setNext(*added, waiting);
+            waiting = added;
         }
-        block.reset();
-        if (!pending.empty()) {
-            block = std::move(pending.back());
-            pending.pop_back();
+    };
+    add(block);
+    while (waiting) {
+        const std::unique_ptr<Block> current(waiting);
+        waiting = nextOf(*current);
+        for (Item& item : current->items) {
+            if (item.subBlock)
+                add(item.subBlock.release());
         }
     }
 }
