@@ -18,9 +18,6 @@
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
-#include <array>
-#include <cstddef>
-
 namespace Panorel {
 
 namespace {
@@ -50,48 +47,56 @@ void writeStates(QXmlStreamWriter& writer, const QString& element, const StateMa
         writeState(writer, element, it.key(), it.value());
 }
 
-constexpr unsigned char noDigit = 0x80;
-
-constexpr std::array<unsigned char, 256> hexDigits()
+// The four bits that a hexadecimal digit stands for; @p others becomes 1 where it is none. All in
+// short integers, without branches and tables: so the compiler makes several digits at a time.
+ushort hexDigit(ushort code, ushort& others)
 {
-    std::array<unsigned char, 256> digits{};
-    for (unsigned char& digit : digits)
-        digit = noDigit;
-    for (unsigned char value = 0; value < 10; ++value)
-        digits[static_cast<std::size_t>('0' + value)] = value;
-    for (unsigned char value = 10; value < 16; ++value) {
-        digits[static_cast<std::size_t>('a' + value - 10)] = value;
-        digits[static_cast<std::size_t>('A' + value - 10)] = value;
-    }
-    return digits;
+    const ushort isNumber = static_cast<ushort>(code - u'0') < 10;
+    const ushort isLetter = static_cast<ushort>((code | 0x20) - u'a') < 6;
+    others = static_cast<ushort>(others | ((isNumber | isLetter) ^ 1));
+    return static_cast<ushort>((code & 0xF) + 9 * isLetter);
 }
 
-// What QByteArray::fromHex() makes of the text. Pairs of digits and nothing else, which is what
-// toXml() writes, are decoded here in one pass: most of a document is such text.
-QByteArray stateFromHex(const QString& text)
+// Puts what pairs of digits and nothing else stand for into @p state; false for other text.
+bool decodePairs(const QStringRef& text, QByteArray& state)
 {
-    static constexpr std::array<unsigned char, 256> digits = hexDigits();
-    QByteArray state(text.size() / 2, Qt::Uninitialized);
-    const ushort* code = text.utf16();
-    unsigned codes = 0;
-    unsigned values = 0;
-    for (char& byte : state) {
-        const unsigned high = digits[code[0] & 0xFFU];
-        const unsigned low = digits[code[1] & 0xFFU];
-        codes |= code[0] | code[1];
-        values |= high | low;
-        byte = static_cast<char>(high << 4 | low);
-        code += 2;
+    const int size = text.size() / 2;
+    state = QByteArray(size, Qt::Uninitialized);
+    const auto* code = reinterpret_cast<const ushort*>(text.data());
+    char* bytes = state.data();
+    ushort others = 0;
+    for (qptrdiff i = 0; i < size; ++i) {
+        const ushort high = hexDigit(code[2 * i], others);
+        const ushort low = hexDigit(code[2 * i + 1], others);
+        bytes[i] = static_cast<char>(high << 4 | low);
     }
-    const bool onlyPairs = text.size() % 2 == 0 && codes <= 0xFF && (values & noDigit) == 0;
-    return onlyPairs ? state : QByteArray::fromHex(text.toUtf8());
+    return text.size() % 2 == 0 && others == 0;
+}
+
+// What QByteArray::fromHex() makes of the element's text. Most of a document is such text, as a
+// rule in one piece without anything else, which is decoded where the reader has it.
+QByteArray readHex(QXmlStreamReader& reader)
+{
+    QByteArray state;
+    QString text;
+    if (reader.readNext() == QXmlStreamReader::Characters && decodePairs(reader.text(), state)) {
+        if (reader.readNext() == QXmlStreamReader::EndElement)
+            return state;
+        text = QString::fromLatin1(state.toHex());
+    }
+    while (!reader.isEndElement() && !reader.isStartElement() && !reader.atEnd()) {
+        if (reader.isCharacters())
+            text += reader.text();
+        reader.readNext();
+    }
+    return QByteArray::fromHex(text.toUtf8());
 }
 
 // Reads an element with a window's state into @p states; an empty state is dropped.
 void readState(QXmlStreamReader& reader, StateMap& states)
 {
     const QString descriptorId = attribute(reader, "DescriptorId");
-    const QByteArray state = stateFromHex(reader.readElementText());
+    const QByteArray state = readHex(reader);
     if (!state.isEmpty())
         states.insert(descriptorId, state);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "TagScan.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstring>
 
 namespace Panorel::Detail {
@@ -40,9 +42,9 @@ bool TagScan::isUtf8() const
 
 void TagScan::scan()
 {
-    int position = m_data.indexOf('<');
-    while (position >= 0 && !m_hasOverfullTag)
-        position = m_data.indexOf('<', endOfMarkup(position));
+    int position = positionOf('<', 0);
+    while (position < m_data.size() && !m_hasOverfullTag)
+        position = positionOf('<', endOfMarkup(position));
 }
 
 int TagScan::endOfMarkup(int position)
@@ -77,8 +79,7 @@ int TagScan::endOfTag(int position)
         }
         ++position;
         if (character == '"' || character == '\'') {
-            const int end = m_data.indexOf(character, position);
-            position = end < 0 ? m_data.size() : end + 1;
+            position = std::min(positionOf(character, position) + 1, m_data.size());
         }
     }
     m_hasOverfullTag = attributes > mostAttributes;
@@ -96,6 +97,15 @@ bool TagScan::isNamespaceDeclared(int equals) const
     while (!isSpace(m_data[start - 1]) && std::strchr("<\"'=", m_data[start - 1]) == nullptr)
         --start;
     return qstrncmp(m_data.constData() + start, "xmlns", 5) == 0;
+}
+
+// The size where there is none. QByteArray::indexOf() looks at one character after the other.
+int TagScan::positionOf(char character, int from) const
+{
+    const char* start = m_data.constData();
+    const auto left = static_cast<std::size_t>(m_data.size() - from);
+    const void* found = std::memchr(start + from, character, left);
+    return found ? static_cast<int>(static_cast<const char*>(found) - start) : m_data.size();
 }
 
 int TagScan::behind(const char* end, int position) const

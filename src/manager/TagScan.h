@@ -38,6 +38,7 @@ private:
     int endOfMarkup(int position);
     int endOfTag(int position);
     bool isNamespaceDeclared(int equals) const;
+    int positionOf(char character, int from) const;
     int behind(const char* end, int position) const;
 
     const QByteArray m_data;

@@ -105,6 +105,8 @@ void DocumentAcceptTest::stateText_data()
     QTest::newRow("two digits") << QByteArray("0f") << QByteArray("0f");
     QTest::newRow("upper case") << QByteArray("ABCDEF") << QByteArray("abcdef");
     QTest::newRow("both cases") << QByteArray("aAbB") << QByteArray("aabb");
+    QTest::newRow("every digit") << QByteArray("0123456789abcdefABCDEF")
+                                 << QByteArray("0123456789abcdefabcdef");
     QTest::newRow("zeros only") << QByteArray("0000") << QByteArray("0000");
     QTest::newRow("white space around") << QByteArray(" \t\r\naabb\n ") << QByteArray("aabb");
     QTest::newRow("white space only") << QByteArray("  ") << QByteArray();
@@ -115,6 +117,12 @@ void DocumentAcceptTest::stateText_data()
     QTest::newRow("a reference to white space") << QByteArray("&#10;aa") << QByteArray("aa");
     QTest::newRow("a comment") << QByteArray("aa<!-- cc -->bb") << QByteArray("aabb");
     QTest::newRow("a comment splitting a byte") << QByteArray("a<!-- -->a") << QByteArray("aa");
+    QTest::newRow("comments only") << QByteArray("<!-- aa --><!-- bb -->") << QByteArray();
+    QTest::newRow("a comment at the end") << QByteArray("aabb<!-- cc -->") << QByteArray("aabb");
+    QTest::newRow("several pieces")
+        << QByteArray("Aa<!-- -->b<?x?>b<![CDATA[c]]>c") << QByteArray("aabbcc");
+    QTest::newRow("white space behind a comment")
+        << QByteArray("aabb<!-- --> ") << QByteArray("aabb");
     QTest::newRow("an instruction") << QByteArray("aa<?cc dd?>bb") << QByteArray("aabb");
     QTest::newRow("a no-break space at the end, against the rules")
         << QByteArray("aabb\xC2\xA0") << QByteArray("aabb");
