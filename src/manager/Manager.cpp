@@ -199,6 +199,8 @@ bool Manager::setViewUserData(const QVariant& userData)
 
 QList<ManagedWindow> Manager::managedWindows()
 {
+    if (m_managables.size() == 1)
+        return m_managables.constFirst()->managedWindows();
     QList<ManagedWindow> windows;
     // An owner that is asked may destroy a window that another one has answered with.
     QVector<QPointer<QMainWindow>> watched;
@@ -222,8 +224,9 @@ StateMap Manager::captureStates()
         if (managed.descriptorId.isEmpty() || !managed.window)
             continue;
         const QByteArray state = managed.window->saveState(layoutVersion);
+        // Copied, for the stream that wrote it has set aside up to twice its size.
         if (!state.isEmpty())
-            states.insert(managed.descriptorId, state);
+            states.insert(managed.descriptorId, QByteArray(state.constData(), state.size()));
     }
     return states;
 }
