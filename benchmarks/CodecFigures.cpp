@@ -160,7 +160,8 @@ QByteArray deepBlob(int depth)
     return blob;
 }
 
-void appendFigures(QVector<Figure>& figures, const QString& what, const QByteArray& blob)
+void appendFigures(QVector<Figure>& figures, const QString& what, const QByteArray& blob,
+                   const char* dimension, int size)
 {
     const auto state = std::make_shared<QtState>();
     (void)state->read(blob);
@@ -171,6 +172,9 @@ void appendFigures(QVector<Figure>& figures, const QString& what, const QByteArr
                             const std::function<void()>& subject) {
         figure.name = QStringLiteral("QtState %1, %2").arg(QLatin1String(operation), what);
         figure.goal = goal;
+        figure.steps = {{QStringLiteral("QtState %1, %2")
+                             .arg(QLatin1String(operation), QLatin1String(dimension)),
+                         static_cast<double>(size)}};
         figure.subject = subject;
         figures.append(figure);
     };
@@ -188,10 +192,13 @@ void appendFigures(QVector<Figure>& figures, const QString& what, const QByteArr
 QVector<Figure> codecFigures()
 {
     QVector<Figure> figures;
-    appendFigures(figures, QStringLiteral("0.5 KB"), wideBlob(6, 4));
-    appendFigures(figures, QStringLiteral("5 KB"), wideBlob(60, 20));
-    appendFigures(figures, QStringLiteral("50 KB"), wideBlob(700, 100));
-    appendFigures(figures, QStringLiteral("nested 100 deep"), deepBlob(100));
-    appendFigures(figures, QStringLiteral("nested 10,000 deep"), deepBlob(10000));
+    const auto append = [&](const QString& what, const QByteArray& blob, const char* dimension,
+                            int size) { appendFigures(figures, what, blob, dimension, size); };
+    append(QStringLiteral("0.5 KB"), wideBlob(6, 4), "width", 1);
+    append(QStringLiteral("5 KB"), wideBlob(60, 40), "width", 10);
+    append(QStringLiteral("50 KB"), wideBlob(600, 400), "width", 100);
+    append(QStringLiteral("nested 100 deep"), deepBlob(100), "depth", 100);
+    append(QStringLiteral("nested 1,000 deep"), deepBlob(1000), "depth", 1000);
+    append(QStringLiteral("nested 10,000 deep"), deepBlob(10000), "depth", 10000);
     return figures;
 }

@@ -16,8 +16,8 @@ using Panorel::Manager;
 
 struct Stage
 {
-    explicit Stage(int viewCount)
-        : windows(2, 10)
+    Stage(int viewCount, int windowCount, int dockCount)
+        : windows(windowCount, dockCount)
         , manager({QStringLiteral("a")}, /*mergeOnApply=*/false)
     {
         manager.registerManagable(windows);
@@ -42,7 +42,8 @@ void writeBareView(QXmlStreamWriter& writer, const QString& element, const QStri
     writer.writeAttribute(QStringLiteral("Name"), name);
     for (int i = 0; i < states.size(); ++i) {
         writer.writeStartElement(QStringLiteral("State"));
-        writer.writeAttribute(QStringLiteral("DescriptorId"), QStringLiteral("window%1").arg(i));
+        writer.writeAttribute(QStringLiteral("DescriptorId"),
+                              QStringLiteral("window%1").arg(i, 2, 10, QLatin1Char('0')));
         writer.writeCharacters(QString::fromLatin1(states.at(i).toHex()));
         writer.writeEndElement();
     }
@@ -74,12 +75,11 @@ QByteArray writeBare(const Stage& stage, int viewCount)
     return document;
 }
 
-Figure writing(const std::shared_ptr<Stage>& stage, double goal)
+Figure writing(const std::shared_ptr<Stage>& stage)
 {
     const int viewCount = stage->viewCount();
     Figure figure;
-    figure.name = QStringLiteral("toXml, %1 views").arg(viewCount);
-    figure.goal = goal;
+    figure.name = QStringLiteral("toXml");
     figure.subject = [stage] { (void)stage->manager.toXml(/*markActive=*/true); };
     figure.baseline = [stage, viewCount] { (void)writeBare(*stage, viewCount); };
     figure.check = [stage, viewCount] {
@@ -107,9 +107,7 @@ Figure reading(const std::shared_ptr<Stage>& stage, bool merge)
 {
     const int viewCount = stage->viewCount();
     Figure figure;
-    figure.name = (merge ? QStringLiteral("fromXml over the old, %1 views")
-                         : QStringLiteral("fromXml anew, %1 views"))
-                      .arg(viewCount);
+    figure.name = merge ? QStringLiteral("fromXml over the old") : QStringLiteral("fromXml anew");
     figure.goal = 1.04;
     figure.subject = [stage, merge] { (void)stage->manager.fromXml(stage->document, merge); };
     figure.baseline = [stage] { (void)readBare(*stage); };
@@ -120,21 +118,55 @@ Figure reading(const std::shared_ptr<Stage>& stage, bool merge)
     return figure;
 }
 
+// A document, and the series of documents that it is a step of.
+struct Setup
+{
+    int views;
+    int windows;
+    int docks;
+    double writingGoal;
+    QVector<Step> steps;
+};
+
+QVector<Setup> setups()
+{
+    const QString views = QStringLiteral("views");
+    const QString windows = QStringLiteral("windows");
+    const QString docks = QStringLiteral("docks");
+    // Goals for writing are set for the usual two windows of ten docks only.
+    return {{1, 2, 10, 0.9, {{views, 1}}},
+            {10, 2, 10, 0.6, {{views, 10}}},
+            {100, 2, 10, 0.4, {{views, 100}, {windows, 2}, {docks, 10}}},
+            {1000, 2, 10, 0.35, {{views, 1000}}},
+            {100, 8, 10, 0, {{windows, 8}}},
+            {100, 20, 10, 0, {{windows, 20}}},
+            {100, 2, 40, 0, {{docks, 40}}},
+            {100, 2, 80, 0, {{docks, 80}}}};
+}
+
+void append(QVector<Figure>& figures, Figure figure, const Setup& setup)
+{
+    for (const Step& step : setup.steps)
+        figure.steps.append({figure.name + QStringLiteral(", ") + step.series, step.size});
+    figure.name += QStringLiteral(", %1 views").arg(setup.views);
+    if (setup.writingGoal == 0)
+        figure.name += QStringLiteral(" of %1 x %2 docks").arg(setup.windows).arg(setup.docks);
+    figures.append(figure);
+}
+
 } // namespace
 
 QVector<Figure> documentFigures()
 {
-    struct Size
-    {
-        int views;
-        double writingGoal;
-    };
     QVector<Figure> figures;
-    for (const Size size : {Size{1, 0.9}, Size{10, 0.6}, Size{100, 0.4}, Size{1000, 0.35}}) {
-        const auto stage = std::make_shared<Stage>(size.views);
-        figures.append(writing(stage, size.writingGoal));
-        figures.append(reading(stage, /*merge=*/false));
-        figures.append(reading(stage, /*merge=*/true));
+    const QVector<Setup> all = setups();
+    for (const Setup& setup : all) {
+        const auto stage = std::make_shared<Stage>(setup.views, setup.windows, setup.docks);
+        Figure toXml = writing(stage);
+        toXml.goal = setup.writingGoal;
+        append(figures, toXml, setup);
+        append(figures, reading(stage, /*merge=*/false), setup);
+        append(figures, reading(stage, /*merge=*/true), setup);
     }
     return figures;
 }

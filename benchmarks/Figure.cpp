@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "Figure.h"
 
+#include <QPointF>
+#include <QStringList>
+
 #include <algorithm>
+#include <cmath>
 #include <ctime>
 
 namespace {
@@ -44,7 +48,34 @@ double quantile(QVector<double> values, double share)
 {
     std::sort(values.begin(), values.end());
     const int last = values.size() - 1;
-    return values.at(static_cast<int>(share * last + 0.5));
+    return values.at(static_cast<int>(std::lround(share * last)));
+}
+
+// The slope of the line that fits the points best.
+double slope(const QVector<QPointF>& points)
+{
+    QPointF mean;
+    for (const QPointF& point : points)
+        mean += point / points.size();
+    double rise = 0;
+    double run = 0;
+    for (const QPointF& point : points) {
+        rise += (point.x() - mean.x()) * (point.y() - mean.y());
+        run += (point.x() - mean.x()) * (point.x() - mean.x());
+    }
+    return rise / run;
+}
+
+double exponent(const QVector<Result>& results, const QString& series, double Result::*time)
+{
+    QVector<QPointF> points;
+    for (const Result& result : results) {
+        for (const Step& step : result.steps) {
+            if (result.sameWork && step.series == series)
+                points.append({std::log(step.size), std::log(result.*time)});
+        }
+    }
+    return slope(points);
 }
 
 } // namespace
@@ -53,7 +84,9 @@ Result measure(const Figure& figure, int rounds)
 {
     Result result;
     result.name = figure.name;
+    result.unit = QStringLiteral("s");
     result.goal = figure.goal;
+    result.steps = figure.steps;
     result.sameWork = figure.check();
     if (!result.sameWork)
         return result;
@@ -79,4 +112,27 @@ Result measure(const Figure& figure, int rounds)
     result.lowerQuartile = quantile(ratios, 0.25);
     result.upperQuartile = quantile(ratios, 0.75);
     return result;
+}
+
+QVector<Growth> growths(const QVector<Result>& results)
+{
+    QStringList names;
+    for (const Result& result : results) {
+        for (const Step& step : result.steps) {
+            if (result.sameWork)
+                names.append(step.series);
+        }
+    }
+    QVector<Growth> all;
+    while (!names.isEmpty()) {
+        const QString name = names.first();
+        if (names.removeAll(name) < 2)
+            continue;
+        Growth growth;
+        growth.series = name;
+        growth.subject = exponent(results, name, &Result::subject);
+        growth.baseline = exponent(results, name, &Result::baseline);
+        all.append(growth);
+    }
+    return all;
 }

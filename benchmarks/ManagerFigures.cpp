@@ -16,11 +16,13 @@ const QString secondView = QStringLiteral("second");
 // Everything that one figure works on; the figure's functions share it.
 struct Stage
 {
-    Stage(int windowCount, int dockCount, bool mergeOnApply)
+    Stage(int windowCount, int dockCount, int moreViews, bool mergeOnApply)
         : windows(windowCount, dockCount)
         , manager({QStringLiteral("a"), QStringLiteral("b")}, mergeOnApply)
     {
         manager.registerManagable(windows);
+        for (int i = 0; i < moreViews; ++i)
+            manager.createView(QStringLiteral("view %1").arg(i));
         first = windows.arrangement(0);
         manager.saveCurrentViewAs(firstView);
         second = windows.arrangement(1);
@@ -46,10 +48,10 @@ QVector<QByteArray> merged(const QVector<QByteArray>& stored, const QVector<QByt
     return result;
 }
 
-Figure plainSwitch(const QString& what, const std::shared_ptr<Stage>& stage)
+Figure plainSwitch(const std::shared_ptr<Stage>& stage)
 {
     Figure figure;
-    figure.name = QStringLiteral("activateView, ") + what;
+    figure.name = QStringLiteral("activateView");
     figure.goal = 1.03;
     figure.subject = [stage] {
         stage->manager.activateView(firstView);
@@ -69,12 +71,12 @@ Figure plainSwitch(const QString& what, const std::shared_ptr<Stage>& stage)
     return figure;
 }
 
-Figure mergingSwitch(const QString& what, const std::shared_ptr<Stage>& stage)
+Figure mergingSwitch(const std::shared_ptr<Stage>& stage)
 {
     const QVector<QByteArray> first = merged(stage->first, stage->second);
     const QVector<QByteArray> second = merged(stage->second, stage->first);
     Figure figure;
-    figure.name = QStringLiteral("activateView merging, ") + what;
+    figure.name = QStringLiteral("activateView merging");
     figure.goal = 1.05;
     figure.subject = [stage] {
         stage->manager.activateView(firstView);
@@ -99,7 +101,7 @@ Figure mergingSwitch(const QString& what, const std::shared_ptr<Stage>& stage)
 Figure groupSwitch(const std::shared_ptr<Stage>& stage)
 {
     Figure figure;
-    figure.name = QStringLiteral("activateGroup and back, 20 docks");
+    figure.name = QStringLiteral("activateGroup and back");
     figure.goal = 1.03;
     figure.subject = [stage] {
         stage->manager.activateGroup(QStringLiteral("b"));
@@ -127,7 +129,7 @@ Figure groupSwitch(const std::shared_ptr<Stage>& stage)
 Figure saving(const std::shared_ptr<Stage>& stage)
 {
     Figure figure;
-    figure.name = QStringLiteral("saveCurrentViewAs, 20 docks");
+    figure.name = QStringLiteral("saveCurrentViewAs");
     figure.goal = 1.04;
     figure.subject = [stage] { stage->manager.saveCurrentViewAs(secondView); };
     figure.baseline = [stage] { (void)stage->windows.save(); };
@@ -139,7 +141,7 @@ Figure creating(const std::shared_ptr<Stage>& stage)
 {
     const QString name = QStringLiteral("created");
     Figure figure;
-    figure.name = QStringLiteral("createView, 20 docks");
+    figure.name = QStringLiteral("createView");
     figure.goal = 1.04;
     figure.prepare = [stage, name] { stage->manager.deleteView(name); };
     figure.subject = [stage, name] { stage->manager.createView(name); };
@@ -148,28 +150,62 @@ Figure creating(const std::shared_ptr<Stage>& stage)
     return figure;
 }
 
+// A stage, and the series of stages that it is a step of.
+struct Setup
+{
+    int windows;
+    int docks;
+    int views;
+    QVector<Step> steps;
+};
+
+QString describe(const Setup& setup)
+{
+    QString text = QStringLiteral("%1 docks").arg(setup.docks);
+    if (setup.windows > 1)
+        text = QStringLiteral("%1 windows of ").arg(setup.windows) + text;
+    if (setup.views > 2)
+        text += QStringLiteral(", %1 views").arg(setup.views);
+    return text;
+}
+
+QVector<Setup> setups()
+{
+    const QString docks = QStringLiteral("docks");
+    const QString windows = QStringLiteral("windows");
+    const QString views = QStringLiteral("views");
+    return {{1, 5, 2, {{docks, 5}, {windows, 1}}},
+            {1, 20, 2, {{docks, 20}}},
+            {1, 80, 2, {{docks, 80}}},
+            {5, 5, 2, {{windows, 5}}},
+            {20, 5, 2, {{windows, 20}}},
+            {1, 20, 10, {{views, 10}}},
+            {1, 20, 100, {{views, 100}}},
+            {1, 20, 1000, {{views, 1000}}}};
+}
+
+void append(QVector<Figure>& figures, Figure figure, const Setup& setup)
+{
+    for (const Step& step : setup.steps)
+        figure.steps.append({figure.name + QStringLiteral(", ") + step.series, step.size});
+    figure.name += QStringLiteral(", ") + describe(setup);
+    figures.append(figure);
+}
+
 } // namespace
 
 QVector<Figure> managerFigures()
 {
     QVector<Figure> figures;
-    for (const int docks : {5, 20, 80}) {
-        figures.append(plainSwitch(QStringLiteral("%1 docks").arg(docks),
-                                   std::make_shared<Stage>(1, docks, /*mergeOnApply=*/false)));
-    }
-    figures.append(plainSwitch(QStringLiteral("20 windows of 5 docks"),
-                               std::make_shared<Stage>(20, 5, /*mergeOnApply=*/false)));
-    auto crowded = std::make_shared<Stage>(1, 20, /*mergeOnApply=*/false);
-    for (int i = 0; i < 1000; ++i)
-        crowded->manager.createView(QStringLiteral("view %1").arg(i));
-    figures.append(plainSwitch(QStringLiteral("20 docks, 1,000 views"), crowded));
-    auto single = std::make_shared<Stage>(1, 20, /*mergeOnApply=*/false);
-    figures.append(groupSwitch(single));
-    figures.append(saving(single));
-    figures.append(creating(single));
-    for (const int docks : {5, 20, 80}) {
-        figures.append(mergingSwitch(QStringLiteral("%1 docks").arg(docks),
-                                     std::make_shared<Stage>(1, docks, /*mergeOnApply=*/true)));
+    const QVector<Setup> all = setups();
+    for (const Setup& setup : all) {
+        const auto plain = std::make_shared<Stage>(setup.windows, setup.docks, setup.views - 2,
+                                                   /*mergeOnApply=*/false);
+        for (const auto& figure : {plainSwitch, groupSwitch, saving, creating})
+            append(figures, figure(plain), setup);
+        const auto merging = std::make_shared<Stage>(setup.windows, setup.docks, setup.views - 2,
+                                                     /*mergeOnApply=*/true);
+        append(figures, mergingSwitch(merging), setup);
     }
     return figures;
 }

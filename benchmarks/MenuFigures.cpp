@@ -22,7 +22,7 @@ struct Stage
         : manager({QStringLiteral("a")}, /*mergeOnApply=*/false)
     {
         for (int i = 0; i < viewCount; ++i)
-            manager.createView(QStringLiteral("view %1").arg(i));
+            manager.saveCurrentViewAs(QStringLiteral("view %1").arg(i));
         menu = std::make_unique<Menu>(&manager, /*extended=*/false);
         bareGroup = new QActionGroup(&bareMenu);
         bareSeparator = bareMenu.addSeparator();
@@ -41,13 +41,14 @@ struct Stage
         bareMenu.insertAction(bareSeparator, entry);
     }
 
-    // The same entries with the same properties and one connection each.
+    // The same entries with the same properties and one connection each, the last one checked.
     void rebuildBare()
     {
         qDeleteAll(bareGroup->actions());
         QStringList names = manager.views();
         for (const QString& name : qAsConst(names))
             addBareEntry(name);
+        bareGroup->actions().constLast()->setChecked(true);
         bareSaveAs->clear();
         bareDelete->clear();
         names.sort();
@@ -72,22 +73,49 @@ struct Stage
     QMenu* bareDelete;
 };
 
-Figure rebuilding(int viewCount, double goal)
+// What an entry shows; empty for those that are not for a view.
+QStringList entries(const QMenu& menu)
 {
-    const auto stage = std::make_shared<Stage>(viewCount);
+    QStringList list;
+    for (const QAction* action : menu.actions()) {
+        list.append(action->data().toString() +
+                    (action->isChecked() ? QStringLiteral(" checked") : QString()));
+    }
+    return list;
+}
+
+Figure against(const std::shared_ptr<Stage>& stage, int viewCount, const QString& name)
+{
     Figure figure;
-    figure.name = QStringLiteral("menu rebuild, %1 views").arg(viewCount);
-    figure.goal = goal;
-    figure.subject = [stage] { stage->menu->updateMenu(); };
+    figure.name = QStringLiteral("%1, %2 views").arg(name).arg(viewCount);
+    figure.steps = {{name + QStringLiteral(", views"), static_cast<double>(viewCount)}};
     figure.baseline = [stage] { stage->rebuildBare(); };
-    figure.check = [stage] {
-        const auto texts = [](const QMenu& menu) {
-            QStringList list;
-            for (const QAction* action : menu.actions())
-                list.append(action->data().toString());
-            return list;
-        };
-        return texts(*stage->menu) == texts(stage->bareMenu);
+    return figure;
+}
+
+Figure rebuilding(const std::shared_ptr<Stage>& stage, int viewCount)
+{
+    Figure figure = against(stage, viewCount, QStringLiteral("menu rebuild"));
+    figure.subject = [stage] { stage->menu->updateMenu(); };
+    figure.check = [stage] { return entries(*stage->menu) == entries(stage->bareMenu); };
+    return figure;
+}
+
+// The check mark to the first view and back to the last.
+Figure selecting(const std::shared_ptr<Stage>& stage, int viewCount)
+{
+    const QString first = stage->manager.views().constFirst();
+    const QString last = stage->manager.views().constLast();
+    Figure figure = against(stage, viewCount, QStringLiteral("menu selection"));
+    figure.subject = [stage, first, last] {
+        stage->manager.activateView(first);
+        stage->manager.activateView(last);
+    };
+    figure.check = [stage, first, last] {
+        stage->manager.activateView(first);
+        const bool moved = entries(*stage->menu).contains(first + QStringLiteral(" checked"));
+        stage->manager.activateView(last);
+        return moved && entries(*stage->menu) == entries(stage->bareMenu);
     };
     return figure;
 }
@@ -96,5 +124,18 @@ Figure rebuilding(int viewCount, double goal)
 
 QVector<Figure> menuFigures()
 {
-    return {rebuilding(10, 1.06), rebuilding(100, 1.05), rebuilding(1000, 1.03)};
+    struct Size
+    {
+        int views;
+        double goal;
+    };
+    QVector<Figure> figures;
+    for (const Size size : {Size{10, 1.06}, Size{100, 1.05}, Size{1000, 1.03}}) {
+        const auto stage = std::make_shared<Stage>(size.views);
+        for (const auto& figure : {rebuilding, selecting}) {
+            figures.append(figure(stage, size.views));
+            figures.last().goal = size.goal;
+        }
+    }
+    return figures;
 }

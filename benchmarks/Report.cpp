@@ -7,10 +7,19 @@
 
 #include <cstdio>
 
+namespace {
+
+const char* mark(bool isWithinGoal)
+{
+    return isWithinGoal ? "pass" : "over";
+}
+
+} // namespace
+
 void printHeader()
 {
-    std::printf("%-46s %11s %11s %7s %15s %6s\n", "figure", "panorel us", "bare us", "ratio",
-                "quartiles", "goal");
+    std::printf("%-46s %14s %14s %7s %15s %6s\n", "figure", "panorel", "bare", "ratio", "quartiles",
+                "goal");
 }
 
 void printResult(const Result& result)
@@ -20,27 +29,57 @@ void printResult(const Result& result)
         std::printf("%-46s does other work than what it is measured against\n", name.constData());
         return;
     }
-    std::printf("%-46s %11.2f %11.2f %7.3f %7.3f-%7.3f %6.2f %s\n", name.constData(),
-                result.subject * 1e6, result.baseline * 1e6, result.ratio, result.lowerQuartile,
-                result.upperQuartile, result.goal, result.ratio <= result.goal ? "" : "above");
+    const bool isTime = result.unit == QLatin1String("s");
+    const double scale = isTime ? 1e6 : 1;
+    std::printf("%-46s %11.*f %-2s %11.*f %-2s %7.3f %7.3f-%7.3f", name.constData(), isTime ? 2 : 0,
+                result.subject * scale, isTime ? "us" : "B", isTime ? 2 : 0,
+                result.baseline * scale, isTime ? "us" : "B", result.ratio, result.lowerQuartile,
+                result.upperQuartile);
+    if (result.goal > 0)
+        std::printf(" %6.2f %s", result.goal, mark(result.isWithinGoal()));
+    std::printf("\n");
     std::fflush(stdout);
 }
 
-QByteArray toJson(const QVector<Result>& results, int rounds)
+void printGrowths(const QVector<Growth>& growths)
+{
+    if (growths.isEmpty())
+        return;
+    std::printf("\n%-46s %14s %14s %7s %15s %6s\n", "exponent of the growth", "panorel", "bare",
+                "above", "", "goal");
+    for (const Growth& growth : growths) {
+        std::printf("%-46s %14.3f %14.3f %7.3f %15s %6.2f %s\n", growth.series.toUtf8().constData(),
+                    growth.subject, growth.baseline, growth.subject - growth.baseline, "",
+                    growth.goal, mark(growth.isWithinGoal()));
+    }
+}
+
+QByteArray toJson(const QVector<Result>& results, const QVector<Growth>& growths, int rounds)
 {
     QJsonArray figures;
     for (const Result& result : results) {
         figures.append(QJsonObject{{QStringLiteral("name"), result.name},
+                                   {QStringLiteral("unit"), result.unit},
                                    {QStringLiteral("goal"), result.goal},
-                                   {QStringLiteral("subjectSeconds"), result.subject},
-                                   {QStringLiteral("baselineSeconds"), result.baseline},
+                                   {QStringLiteral("subject"), result.subject},
+                                   {QStringLiteral("baseline"), result.baseline},
                                    {QStringLiteral("ratio"), result.ratio},
                                    {QStringLiteral("lowerQuartile"), result.lowerQuartile},
                                    {QStringLiteral("upperQuartile"), result.upperQuartile},
-                                   {QStringLiteral("sameWork"), result.sameWork}});
+                                   {QStringLiteral("sameWork"), result.sameWork},
+                                   {QStringLiteral("pass"), result.isWithinGoal()}});
+    }
+    QJsonArray exponents;
+    for (const Growth& growth : growths) {
+        exponents.append(QJsonObject{{QStringLiteral("series"), growth.series},
+                                     {QStringLiteral("goal"), growth.goal},
+                                     {QStringLiteral("subject"), growth.subject},
+                                     {QStringLiteral("baseline"), growth.baseline},
+                                     {QStringLiteral("pass"), growth.isWithinGoal()}});
     }
     return QJsonDocument(QJsonObject{{QStringLiteral("rounds"), rounds},
                                      {QStringLiteral("qt"), QString::fromLatin1(qVersion())},
-                                     {QStringLiteral("figures"), figures}})
+                                     {QStringLiteral("figures"), figures},
+                                     {QStringLiteral("exponents"), exponents}})
         .toJson();
 }

@@ -5,8 +5,10 @@
 
 #include <QByteArray>
 
-/** A line of the table on standard output. */
+/** A line of the table on standard output; "over" marks what exceeds its goal. */
 void printHeader();
 void printResult(const Result& result);
 
-QByteArray toJson(const QVector<Result>& results, int rounds);
+void printGrowths(const QVector<Growth>& growths);
+
+QByteArray toJson(const QVector<Result>& results, const QVector<Growth>& growths, int rounds);

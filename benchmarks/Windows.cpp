@@ -57,7 +57,8 @@ QList<Panorel::ManagedWindow> Windows::managedWindows()
 {
     QList<Panorel::ManagedWindow> managed;
     for (std::size_t i = 0; i < m_windows.size(); ++i)
-        managed.append({QStringLiteral("window%1").arg(i), m_windows[i].get()});
+        managed.append(
+            {QStringLiteral("window%1").arg(i, 2, 10, QLatin1Char('0')), m_windows[i].get()});
     return managed;
 }
 

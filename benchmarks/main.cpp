@@ -12,8 +12,8 @@ int main(int argc, char* argv[])
 {
     QApplication app(argc, argv);
     QCommandLineParser options;
-    options.setApplicationDescription(
-        QStringLiteral("Process CPU time of the library as a ratio to the bare work beside it."));
+    options.setApplicationDescription(QStringLiteral(
+        "Process CPU time and memory of the library as a ratio to the bare work beside it."));
     options.addHelpOption();
     options.addOptions(
         {{QStringLiteral("rounds"), QStringLiteral("Rounds for each figure."), QStringLiteral("n"),
@@ -37,10 +37,19 @@ int main(int argc, char* argv[])
             printResult(results.last());
         }
     }
+    for (const int docks : {10, 20, 80}) {
+        const Result memory = memoryOfViews(docks);
+        if (!memory.name.contains(only))
+            continue;
+        results.append(memory);
+        printResult(memory);
+    }
+    const QVector<Growth> exponents = growths(results);
+    printGrowths(exponents);
 
     if (options.isSet(QStringLiteral("json"))) {
         QFile file(options.value(QStringLiteral("json")));
-        if (!file.open(QIODevice::WriteOnly) || file.write(toJson(results, rounds)) < 0)
+        if (!file.open(QIODevice::WriteOnly) || file.write(toJson(results, exponents, rounds)) < 0)
             return 2;
     }
     return std::all_of(results.cbegin(), results.cend(),
