@@ -24,13 +24,16 @@ TagScan::TagScan(const QByteArray& data)
         scan();
 }
 
-// Only the declarations that toXml() and most programs write are known here. A reader may take
-// others differently: Qt's goes by the last of several encodings.
+// Only the declarations that toXml() and most programs write are known here, with the one kind of
+// quotes or the other. A reader may take others differently: Qt's goes by the last of several
+// encodings.
 bool TagScan::isUtf8() const
 {
     int start = m_data.startsWith("\xEF\xBB\xBF") ? 3 : 0;
     if (m_data.mid(start, 5) == "<?xml") {
-        const QByteArray declaration = m_data.mid(start, behind("?>", start) - start).toUpper();
+        QByteArray declaration = m_data.mid(start, behind("?>", start) - start).toUpper();
+        if (!declaration.contains('"'))
+            declaration.replace('\'', '"');
         return declaration == "<?XML VERSION=\"1.0\" ENCODING=\"UTF-8\"?>" ||
                declaration == "<?XML VERSION=\"1.0\"?>";
     }

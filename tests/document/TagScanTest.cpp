@@ -61,7 +61,14 @@ void TagScanTest::isPlain_data()
     row("declaration behind a blank", " <?xml version=\"1.0\"?><a/>", false);
     row("NUL behind a blank", QByteArray(" <\0a/>", 6), false);
     row("other encoding", "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><a/>", false);
-    row("encoding in single quotes", "<?xml version=\"1.0\" encoding='UTF-8'?><a/>", false);
+    row("single quotes", "<?xml version='1.0' encoding='utf-8'?><a/>", true);
+    row("single quotes, no encoding", "<?xml version='1.0'?><a/>", true);
+    row("other encoding in single quotes", "<?xml version='1.0' encoding='UTF-16'?><a/>", false);
+    row("two encodings in single quotes",
+        "<?xml version='1.0' encoding='UTF-8' encoding='UTF-7'?><a/>", false);
+    row("only the encoding in single quotes", "<?xml version=\"1.0\" encoding='UTF-8'?><a/>",
+        false);
+    row("quotes of two kinds", "<?xml version='1.0\" encoding=\"UTF-8'?><a/>", false);
     row("declaration that does not end", "<?xml encoding=\"UTF-7\"", false);
     row("UTF-16", utf16("<a/>"), false);
     row("UTF-16, marked", QByteArray("\xFE\xFF").append(utf16("<a/>")), false);
@@ -112,7 +119,9 @@ void TagScanTest::hasOverfullTag_data()
     row("tag that does not end", "<a b='' c='' d='' e='' f='' g='' h=''", true);
     row("value that does not end", "<a b='", false);
     // Where the encoding is not known for sure the slower guard counts, see DocumentLimitsTest.
-    row("seven, encoding in single quotes",
+    row("seven behind single quotes",
+        "<?xml version='1.0' encoding='UTF-8'?><a b='' c='' d='' e='' f='' g='' h=''/>", true);
+    row("seven, only the encoding in single quotes",
         "<?xml version=\"1.0\" encoding='UTF-8'?><a b='' c='' d='' e='' f='' g='' h=''/>", false);
     row("seven behind a document type", "<!DOCTYPE a><a b='' c='' d='' e='' f='' g='' h=''/>",
         false);
