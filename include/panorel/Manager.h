@@ -132,7 +132,7 @@ public:
      * @param markActive whether each group's active view is marked, so that fromXml() finds it.
      *
      * User data is written as text; a value that has no text form is written empty. Characters that
-     * XML cannot carry are lost from names.
+     * XML cannot carry are lost from names; half of a surrogate pair becomes a question mark.
      */
     QByteArray toXml(bool markActive);
 

@@ -29,13 +29,21 @@ QString attribute(const QXmlStreamReader& reader, const char* name)
     return reader.attributes().value(QLatin1String(name)).toString();
 }
 
+// Half of a surrogate pair stands for nothing, and behind one Qt's writer leaves out all further
+// text: the document would be refused, and with it every view lost.
+QString writable(const QString& text)
+{
+    return text.isValidUtf16() ? text : QString::fromUtf8(text.toUtf8());
+}
+
 void writeState(QXmlStreamWriter& writer, const QString& element, const QString& descriptorId,
                 const QByteArray& state)
 {
     writer.writeStartElement(element);
-    writer.writeAttribute(QStringLiteral("DescriptorId"), descriptorId);
+    writer.writeAttribute(QStringLiteral("DescriptorId"), writable(descriptorId));
     // The empty text closes the start tag; the digits need no escaping and go past the writer,
-    // which would look at each of them several times.
+    // which would look at each of them several times. It writes UTF-8 and keeps nothing back, so
+    // they come to stand in their place.
     writer.writeCharacters(QString());
     writer.device()->write(state.toHex());
     writer.writeEndElement();
@@ -156,7 +164,7 @@ QByteArray Manager::toXml(bool markActive)
 
 void Manager::writeGroup(const Group& group, QXmlStreamWriter& writer, bool markActive) const
 {
-    writer.writeAttribute(QStringLiteral("Name"), group.name);
+    writer.writeAttribute(QStringLiteral("Name"), writable(group.name));
     writer.writeStartElement(QStringLiteral("Views"));
     for (const auto& view : group.views) {
         writer.writeStartElement(QStringLiteral("View"));
@@ -173,9 +181,9 @@ void Manager::writeGroup(const Group& group, QXmlStreamWriter& writer, bool mark
 
 void Manager::writeView(const View& view, QXmlStreamWriter& writer) const
 {
-    writer.writeAttribute(QStringLiteral("Name"), view.name);
+    writer.writeAttribute(QStringLiteral("Name"), writable(view.name));
     writeStates(writer, QStringLiteral("State"), view.states);
-    writer.writeTextElement(QStringLiteral("UserData"), view.userData.toString());
+    writer.writeTextElement(QStringLiteral("UserData"), writable(view.userData.toString()));
 }
 
 bool Manager::fromXml(const QByteArray& data, bool merge)

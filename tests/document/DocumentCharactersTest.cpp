@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "DocumentFixture.h"
-#include "support/SignalLog.h"
+#include "support/Owner.h"
 
 #include <panorel/Manager.h>
 
+#include <QMainWindow>
 #include <QtTest>
 
 using namespace Panorel;
@@ -25,8 +26,10 @@ private Q_SLOTS:
     void kept();
     void namesThatBecomeOne();
     void groupNoLongerFound();
-    void loneSurrogateSpoilsTheDocument_data();
-    void loneSurrogateSpoilsTheDocument();
+    void halfOfAPair_data();
+    void halfOfAPair();
+    void pairs();
+    void halfOfAPairInUserData();
 
 private:
     std::unique_ptr<Manager> m_manager;
@@ -117,30 +120,58 @@ void DocumentCharactersTest::groupNoLongerFound()
     QCOMPARE(manager.views(), QStringList());
 }
 
-void DocumentCharactersTest::loneSurrogateSpoilsTheDocument_data()
+void DocumentCharactersTest::halfOfAPair_data()
 {
-    QTest::addColumn<ushort>("code");
-    QTest::newRow("high") << ushort(0xD800);
-    QTest::newRow("low") << ushort(0xDC00);
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("written");
+    QTest::newRow("first half") << around(0xD800) << "a?b"_s;
+    QTest::newRow("second half") << around(0xDC00) << "a?b"_s;
+    QTest::newRow("at the end") << "ab"_s + QChar(0xD800) << "ab?"_s;
+    QTest::newRow("wrong order") << "a"_s + QChar(0xDC00) + QChar(0xD800) << "a??"_s;
 }
 
-// From there on Qt's writer leaves out every name, so nobody reads the document again.
-void DocumentCharactersTest::loneSurrogateSpoilsTheDocument()
+// Qt's writer would leave out every name behind it, and nobody could read the document again.
+void DocumentCharactersTest::halfOfAPair()
 {
-    QFETCH(ushort, code);
-    QVERIFY(m_manager->createView("v"_s));
-    const QByteArray sound = m_manager->toXml(/*markActive=*/true);
-    QVERIFY(m_manager->createView(around(code)));
-    const QByteArray spoilt = m_manager->toXml(/*markActive=*/true);
-    const SignalLog log(*m_manager);
-    QVERIFY(!m_manager->fromXml(spoilt, /*merge=*/false));
-    QVERIFY(!m_manager->fromXml(spoilt, /*merge=*/true));
-    QVERIFY(!m_manager->setFactoryDefaultView(spoilt));
-    QCOMPARE(m_manager->views(), QStringList({"v"_s, around(code)}));
-    QCOMPARE(log.lines(), QStringList());
-    // Only the document is spoilt: without the view the next one is as before.
-    m_manager->deleteView(around(code));
-    QCOMPARE(m_manager->toXml(/*markActive=*/true), sound);
+    QFETCH(QString, name);
+    QFETCH(QString, written);
+    Manager manager({name, "G"_s}, /*mergeOnApply=*/true);
+    QMainWindow window;
+    Owner owner({{name, &window}});
+    manager.registerManagable(owner);
+    QVERIFY(manager.createView(name));
+    QVERIFY(manager.createView("later"_s));
+    const QByteArray data = manager.toXml(/*markActive=*/true);
+    QCOMPARE(data.count("<Group Name=\"" + written.toUtf8() + "\">"), 1);
+    // The live state, and those of two views and the current one.
+    QCOMPARE(data.count("DescriptorId=\"" + written.toUtf8() + "\""), 4);
+    Manager other({written}, /*mergeOnApply=*/false);
+    QVERIFY(other.fromXml(data, /*merge=*/false));
+    QCOMPARE(other.views(), QStringList({written, "later"_s}));
+}
+
+void DocumentCharactersTest::pairs()
+{
+    const QString both = "a"_s + QChar(0xD83D) + QChar(0xDE00);
+    QVERIFY(m_manager->createView(both));
+    const QByteArray data = m_manager->toXml(/*markActive=*/true);
+    QCOMPARE(data.count("<View Name=\"a\xF0\x9F\x98\x80\">"), 1);
+    QVERIFY(m_manager->fromXml(data, /*merge=*/false));
+    QCOMPARE(m_manager->views(), QStringList(both));
+}
+
+// The text of user data comes from a document, which holds such halves only in UTF-16.
+void DocumentCharactersTest::halfOfAPairInUserData()
+{
+    const QString text = QString::fromUtf8(document(group("G", view("v", userData("half")))));
+    const QString utf16 =
+        QChar(QChar::ByteOrderMark) + QString(text).replace("half"_s, around(0xD800));
+    const QByteArray bytes(reinterpret_cast<const char*>(utf16.utf16()), utf16.size() * 2);
+    QVERIFY(m_manager->fromXml(bytes, /*merge=*/false));
+    QVERIFY(m_manager->createView("later"_s));
+    const QByteArray data = m_manager->toXml(/*markActive=*/true);
+    QVERIFY(m_manager->fromXml(data, /*merge=*/false));
+    QCOMPARE(m_manager->views(), names("v,later"));
 }
 
 QTEST_MAIN(DocumentCharactersTest)
