@@ -76,7 +76,11 @@ void Menu::updateMenu()
     for (const QString& name : names)
         insertAction(m_viewSeparator, createViewEntry(name));
     updateSubMenus(names);
-    updateSelection();
+    // What updateSelection() does, without asking each of the new entries for its name.
+    const QString active = m_manager->activeView();
+    const int index = active.isEmpty() ? -1 : names.indexOf(active);
+    if (QAction* entry = m_viewGroup->actions().value(index))
+        entry->setChecked(true);
 }
 
 QAction* Menu::createViewEntry(const QString& name)
