@@ -177,15 +177,17 @@ public:
     bool read(const QByteArray& state);
 
     /**
-     * The value as bytes: marker, version, all dock-area sections, then all tool-bar sections.
-     * Cannot fail. An empty value gives eight bytes 0xFF, which neither read() nor Qt accepts. A
-     * nested item without its block is written as an empty sequence.
+     * The value as bytes: marker, version, all dock-area sections, then all tool-bar sections. An
+     * empty value gives eight bytes 0xFF, which neither read() nor Qt accepts. A nested item
+     * without its block is written as an empty sequence. Empty only for what no window has: more
+     * than 512 MiB, to which repeated long names can grow, or more than memory holds.
      */
     QByteArray write() const;
 
     /**
      * A new value with the marker, version and dock areas of @p a and the tool bars of @p b. A null
-     * @p b gives none; the tool bars of @p a and the dock areas of @p b are never used.
+     * @p b gives none; the tool bars of @p a and the dock areas of @p b are never used. Throws
+     * std::bad_alloc, as every copy, where there is no memory for it.
      */
     static QtState merge(const QtState& a, const QtState& b);
 

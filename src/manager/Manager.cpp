@@ -9,6 +9,7 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <new>
 
 namespace Panorel {
 
@@ -26,6 +27,24 @@ QString emptyName()
 QString nameOf(const View* view)
 {
     return view ? view->name : QString();
+}
+
+// Deliberate: whether a blob parses is not asked; a broken one takes part as far as it was read,
+// and an id without a stored blob gives one that its window refuses. Empty where a hostile blob
+// describes more than memory holds; then the window keeps its layout.
+QByteArray mergedState(const QByteArray& stored, const QByteArray& live)
+{
+    try {
+        QtState storedState;
+        if (!stored.isEmpty())
+            (void)storedState.read(stored);
+        QtState liveState;
+        if (!live.isEmpty())
+            (void)liveState.read(live);
+        return QtState::merge(storedState, liveState).write();
+    } catch (const std::bad_alloc&) {
+        return QByteArray();
+    }
 }
 
 } // namespace
@@ -259,17 +278,7 @@ StateMap Manager::mergeStates(const StateMap& stored, const StateMap& live)
     for (const QString& id : ids) {
         if (merged.contains(id))
             continue;
-        // Deliberate: whether a blob parses is not asked; a broken one takes part as far as it
-        // was read, and an id without a stored blob gives one that its window refuses.
-        QtState storedState;
-        const QByteArray storedBlob = stored.value(id);
-        if (!storedBlob.isEmpty())
-            (void)storedState.read(storedBlob);
-        QtState liveState;
-        const QByteArray liveBlob = live.value(id);
-        if (!liveBlob.isEmpty())
-            (void)liveState.read(liveBlob);
-        merged.insert(id, QtState::merge(storedState, liveState).write());
+        merged.insert(id, mergedState(stored.value(id), live.value(id)));
     }
     return merged;
 }

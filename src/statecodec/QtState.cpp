@@ -2,6 +2,7 @@
 #include <panorel/QtState.h>
 
 #include "ByteRun.h"
+#include "LimitedBuffer.h"
 
 #include <QByteArray>
 #include <QDataStream>
@@ -18,6 +19,7 @@ using Block = Dock::Block;
 using Item = Block::Item;
 using Line = QtState::ToolBarAreaLayout::Line;
 using Detail::ByteRun;
+using Detail::LimitedBuffer;
 
 // The in-class initialisers make them usable as constants; the definitions give them addresses
 // that are exported.
@@ -282,13 +284,19 @@ bool QtState::readToolBarAreaLayout(QDataStream& stream, int marker)
 QByteArray QtState::write() const
 {
     QByteArray state;
-    QDataStream stream(&state, QIODevice::WriteOnly);
-    stream << m_versionMarker << m_version;
-    for (const DockAreaLayout& layout : m_dockAreaLayouts)
-        writeDockAreaLayout(stream, layout);
-    for (const ToolBarAreaLayout& layout : m_toolBarAreaLayouts)
-        writeToolBarAreaLayout(stream, layout);
-    return state;
+    LimitedBuffer buffer(&state);
+    buffer.open(QIODevice::WriteOnly);
+    QDataStream stream(&buffer);
+    try {
+        stream << m_versionMarker << m_version;
+        for (const DockAreaLayout& layout : m_dockAreaLayouts)
+            writeDockAreaLayout(stream, layout);
+        for (const ToolBarAreaLayout& layout : m_toolBarAreaLayouts)
+            writeToolBarAreaLayout(stream, layout);
+    } catch (const std::bad_alloc&) {
+        return QByteArray();
+    }
+    return isOk(stream) ? state : QByteArray();
 }
 
 void QtState::writeDockAreaLayout(QDataStream& stream, const DockAreaLayout& layout) const

@@ -38,6 +38,7 @@ private Q_SLOTS:
     void yCoordinatesAreIgnored();
     void dockAreasComeFirst();
     void writingChangesNothing();
+    void moreThanAnyWindowHas();
 
 private:
     MessageWatch m_watch;
@@ -279,6 +280,22 @@ void QtStateWriteTest::writingChangesNothing()
     const QtState before(state);
     QCOMPARE(state.write(), std::as_const(state).write());
     QCOMPARE(difference(state, before), QString());
+}
+
+// A name that repeats takes the memory of one, and that of all when it is written.
+void QtStateWriteTest::moreThanAnyWindowHas()
+{
+    const QString longName(1 << 20, QLatin1Char('x'));
+    DockItem item;
+    item.objectName = longName;
+    QtState state;
+    Block& block = addBlock(state);
+    block.items.assign(256, item);
+    // Just over 512 MiB.
+    QCOMPARE(state.write(), QByteArray());
+    block.items.resize(10);
+    const int itemSize = 1 + 4 + 2 * longName.size() + 1 + 16;
+    QCOMPARE(state.write().size(), around(BlobBuilder().sequence(0, 0)).size() + 10 * itemSize);
 }
 
 } // namespace Panorel::Tests
