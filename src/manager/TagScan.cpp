@@ -52,8 +52,11 @@ void TagScan::scan()
 
 int TagScan::endOfMarkup(int position)
 {
+    // Nothing ends the data but its size, for the caller may have made it of raw bytes.
     const auto startsWith = [&](const char* text) {
-        return qstrncmp(m_data.constData() + position, text, qstrlen(text)) == 0;
+        const std::size_t length = qstrlen(text);
+        return static_cast<std::size_t>(m_data.size() - position) >= length &&
+               std::memcmp(m_data.constData() + position, text, length) == 0;
     };
     if (startsWith("<!--"))
         return behind("-->", position + 4);

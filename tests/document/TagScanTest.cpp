@@ -74,6 +74,9 @@ void TagScanTest::isPlain_data()
     row("UTF-16, marked", QByteArray("\xFE\xFF").append(utf16("<a/>")), false);
     row("document type", "<!DOCTYPE a><a/>", false);
     row("document type behind a comment", "<!-- --><!DOCTYPE a><a/>", false);
+    row("start of markup at the end", "<a><", true);
+    row("start of a comment at the end", "<a><!-", false);
+    row("start of an instruction at the end", "<a><?", true);
     row("namespace", "<a xmlns:b=\"c\"/>", false);
     row("namespace, blanks before the sign", "<a xmlns:b  = \"c\"/>", false);
     row("default namespace", "<a xmlns=\"c\"/>", false);
@@ -86,12 +89,19 @@ void TagScanTest::isPlain()
     QFETCH(QByteArray, document);
     QFETCH(bool, expected);
     QCOMPARE(TagScan(document).isPlain(), expected);
+    // With nothing behind it, where AddressSanitizer sees a look.
+    const auto bytes = std::make_unique<char[]>(static_cast<std::size_t>(document.size()));
+    std::copy(document.cbegin(), document.cend(), bytes.get());
+    const QByteArray raw = QByteArray::fromRawData(bytes.get(), document.size());
+    QCOMPARE(TagScan(raw).isPlain(), expected);
 }
 
 void TagScanTest::hasOverfullTag_data()
 {
     QTest::addColumn<QByteArray>("document");
     QTest::addColumn<bool>("expected");
+    row("only the start of markup", "<a><", false);
+    row("only the start of a comment", "<a><!-", false);
     row("six", "<a b='' c='' d='' e='' f='' g=''/>", false);
     row("seven", "<a b='' c='' d='' e='' f='' g='' h=''/>", true);
     row("seven, blanks around the signs", "<a b = '' c= '' d =''\ne='' f='' g='' h=''/>", true);
