@@ -27,6 +27,7 @@ private Q_SLOTS:
     void createdAgainBetweenCaptureAndApply();
     void destroyedByAnotherOwner_data();
     void destroyedByAnotherOwner();
+    void destroyedByAnotherWindowsRestoring_data();
     void destroyedByAnotherWindowsRestoring();
     void listThatChangesBetweenCalls_data() { addMerge(); }
     void listThatChangesBetweenCalls();
@@ -129,18 +130,37 @@ void WindowLifeTest::destroyedByAnotherOwner()
     QCOMPARE(m_second->dockArea(), Qt::LeftDockWidgetArea);
 }
 
+void WindowLifeTest::destroyedByAnotherWindowsRestoring_data()
+{
+    QTest::addColumn<bool>("merge");
+    QTest::addColumn<bool>("oneOwner");
+    QTest::addRow("one owner") << false << true;
+    QTest::addRow("one owner, merging") << true << true;
+    QTest::addRow("two owners") << false << false;
+    QTest::addRow("two owners, merging") << true << false;
+}
+
 void WindowLifeTest::destroyedByAnotherWindowsRestoring()
 {
-    Owner owner({{"1"_s, m_first.get()}, {"2"_s, m_second.get()}});
-    Manager manager(lines({"G"}), false);
-    manager.registerManagable(owner);
+    QFETCH(bool, merge);
+    QFETCH(bool, oneOwner);
+    Owner first({{"1"_s, m_first.get()}});
+    Owner second({{"2"_s, m_second.get()}});
+    if (oneOwner)
+        first.windows += second.windows;
+    Manager manager(lines({"G"}), merge);
+    manager.registerManagable(first);
+    if (!oneOwner)
+        manager.registerManagable(second);
     QVERIFY(manager.createView("a"_s));
     m_first->moveDock(Qt::RightDockWidgetArea);
     m_first->onPlaced = [&] {
-        owner.windows = {{"1"_s, m_first.get()}};
+        first.windows = {{"1"_s, m_first.get()}};
+        second.windows.clear();
         m_second.reset();
     };
     QCOMPARE(manager.activateView("a"_s), true);
+    QVERIFY(!m_second);
     QCOMPARE(m_first->dockArea(), Qt::LeftDockWidgetArea);
     m_first->onPlaced = nullptr;
 }
