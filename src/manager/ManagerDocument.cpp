@@ -8,6 +8,7 @@
 #include "Group.h"
 #include "SchemaHints.h"
 #include "TagScan.h"
+#include "WritableText.h"
 
 #include <panorel/Manager.h>
 
@@ -20,6 +21,8 @@
 
 namespace Panorel {
 
+using Detail::writable;
+
 namespace {
 
 const QLatin1String documentVersion("1.1.0");
@@ -27,13 +30,6 @@ const QLatin1String documentVersion("1.1.0");
 QString attribute(const QXmlStreamReader& reader, const char* name)
 {
     return reader.attributes().value(QLatin1String(name)).toString();
-}
-
-// Half of a surrogate pair stands for nothing, and behind one Qt's writer leaves out all further
-// text: the document would be refused, and with it every view lost.
-QString writable(const QString& text)
-{
-    return text.isValidUtf16() ? text : QString::fromUtf8(text.toUtf8());
 }
 
 void writeState(QXmlStreamWriter& writer, const QString& element, const QString& descriptorId,

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "SchemaHints.h"
 
+#include "WritableText.h"
+
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
@@ -39,13 +41,13 @@ void copyStartElement(const QXmlStreamReader& reader, QXmlStreamWriter& writer)
         const QString prefix = declaration.prefix().toString();
         const QString xmlns = QStringLiteral("xmlns");
         writer.writeAttribute(prefix.isEmpty() ? xmlns : QString(xmlns + QLatin1Char(':') + prefix),
-                              declaration.namespaceUri().toString());
+                              writable(declaration.namespaceUri().toString()));
     }
     const QXmlStreamAttributes attributes = reader.attributes();
     for (const QXmlStreamAttribute& attribute : attributes) {
         if (!isHint(attribute))
             writer.writeAttribute(attribute.qualifiedName().toString(),
-                                  attribute.value().toString());
+                                  writable(attribute.value().toString()));
     }
 }
 
@@ -67,7 +69,7 @@ QByteArray SchemaHints::removed(const QByteArray& data)
             writer.writeEndElement();
             break;
         case QXmlStreamReader::Characters:
-            writer.writeCharacters(reader.text().toString());
+            writer.writeCharacters(writable(reader.text().toString()));
             break;
         default:
             break;

@@ -180,6 +180,13 @@ void DocumentXmlTest::encodings_data()
     row("UTF-16 with a lone surrogate, against the rules", Accepted,
         encoded("UTF-16LE", noted("@"), "\xFF\xFE")
             .replace(QByteArray("@\0", 2), QByteArray("\x00\xD8", 2)));
+    row("UTF-16 with a lone surrogate and a hint at a schema, against the rules", Accepted,
+        encoded("UTF-16LE",
+                noted("@").replace("<ViewData",
+                                   "<ViewData xmlns:xsi=\"http://www.w3.org/2001/"
+                                   "XMLSchema-instance\" xsi:noNamespaceSchemaLocation=\"a\""),
+                "\xFF\xFE")
+            .replace(QByteArray("@\0", 2), QByteArray("\x00\xD8", 2)));
     row("8-bit text with the mark of UTF-16", Refused, "\xFF\xFE" + minimal);
     row("8-bit text declared as UTF-16", Refused, declaration("UTF-16") + minimal);
 }
