@@ -11,9 +11,16 @@ panorel_add_package_test(install COMMAND ${CMAKE_COMMAND}
 set_tests_properties(package.install PROPERTIES FIXTURES_SETUP package.prefix)
 
 # Builds the project in a folder, or only TARGET of it, with further options for its configuration;
-# then runs the program PROGRAM, if given.
+# then runs the program PROGRAM, if given. With GENERATOR another one is used than for this build.
 function(panorel_add_build_test name source project)
-    cmake_parse_arguments(PARSE_ARGV 3 arg "" "TARGET;PROGRAM" "")
+    cmake_parse_arguments(PARSE_ARGV 3 arg "" "TARGET;PROGRAM;GENERATOR" "")
+    set(folder "${work}/${name}")
+    set(generator "${CMAKE_GENERATOR}" --build-makeprogram "${CMAKE_MAKE_PROGRAM}")
+    if(arg_GENERATOR)
+        set(generator "${arg_GENERATOR}")
+        string(MAKE_C_IDENTIFIER "${arg_GENERATOR}" suffix)
+        string(APPEND folder "-${suffix}")
+    endif()
     if(arg_TARGET)
         set(arg_TARGET --build-target ${arg_TARGET})
     endif()
@@ -21,9 +28,8 @@ function(panorel_add_build_test name source project)
         set(arg_PROGRAM --test-command ${arg_PROGRAM})
     endif()
     panorel_add_package_test(${name} COMMAND ${CMAKE_CTEST_COMMAND}
-        --build-and-test "${source}" "${work}/${name}"
-        --build-generator "${CMAKE_GENERATOR}"
-        --build-makeprogram "${CMAKE_MAKE_PROGRAM}"
+        --build-and-test "${source}" "${folder}"
+        --build-generator ${generator}
         --build-project ${project}
         --build-noclean
         ${arg_TARGET}
@@ -43,9 +49,10 @@ endfunction()
 
 panorel_add_consumer_test(findPackage "-DPANOREL_PREFIX=${prefix}")
 set_tests_properties(package.findPackage PROPERTIES FIXTURES_REQUIRED package.prefix)
-# With BUILD_TESTING on, as a project with tests of its own has it.
+# With BUILD_TESTING on, as a project with tests of its own has it, and with make, which is CMake's
+# own choice on most systems and, unlike Ninja, makes no folders for what is generated.
 panorel_add_consumer_test(addSubdirectory "-DPANOREL_SOURCE_DIR=${PROJECT_SOURCE_DIR}"
-    -DBUILD_TESTING=ON)
+    -DBUILD_TESTING=ON GENERATOR "Unix Makefiles")
 
 find_program(PKG_CONFIG_EXECUTABLE NAMES pkg-config pkgconf)
 if(UNIX AND PKG_CONFIG_EXECUTABLE)
