@@ -39,9 +39,9 @@ int main(int argc, char* argv[])
     Panorel::Manager manager({QStringLiteral("Editing")}, /*mergeOnApply=*/false);
     Window window;
     manager.registerManagable(window);
+    LayoutUndo undo(manager); // Before the menu, which uses it.
     Panorel::Menu menu(&manager, /*extended=*/true);
     window.menuBar()->addMenu(&menu);
-    LayoutUndo undo(manager);
     LayoutCures::explainImports(menu, manager, undo,
                                 [&](const QString& message) { window.tell(message); });
 
@@ -49,7 +49,7 @@ int main(int argc, char* argv[])
     LayoutStore store(LayoutStore::defaultFileName());
     window.tell(store.load(manager));
     // When the session ends there may be no time left after exec().
-    QObject::connect(&app, &QGuiApplication::commitDataRequest, &app,
+    QObject::connect(&app, &QGuiApplication::commitDataRequest, &manager,
                      [&] { (void)store.save(manager); });
     const int result = QApplication::exec();
     const QString problem = store.save(manager);

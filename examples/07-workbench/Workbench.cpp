@@ -31,8 +31,8 @@ const QKeySequence buttonKeys(QStringLiteral("Ctrl+L"));
 
 Workbench::Workbench(const QString& layoutsFile, bool mergeOnApply)
     : m_manager({editing, debugging, review}, mergeOnApply)
-    , m_menu(&m_manager, /*extended=*/true)
     , m_undo(m_manager)
+    , m_menu(&m_manager, /*extended=*/true)
     , m_store(layoutsFile)
     , m_session(QFileInfo(layoutsFile).absolutePath() + QStringLiteral("/windows.ini"),
                 QSettings::IniFormat)

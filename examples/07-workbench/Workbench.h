@@ -62,12 +62,12 @@ private:
     void askForName();
     void tell(const QString& message);
 
-    // In this order: the menu and what the windows hold end before the Manager.
+    // In this order: the menus, one of them in a window, end before what they use.
     Panorel::Manager m_manager;
+    LayoutUndo m_undo;
     EditorWindow m_editor;
     PlotWindow m_plot;
     Panorel::Menu m_menu;
-    LayoutUndo m_undo;
     LayoutStore m_store;
     QSettings m_session;
     QTimer m_saveSoon;
