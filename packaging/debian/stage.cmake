@@ -26,6 +26,12 @@ foreach(component IN LISTS CPACK_COMPONENTS_ALL)
     file(COPY_FILE "${debian}/copyright" "${doc}/copyright")
     compress("${debian}/changelog" "${doc}/changelog.Debian.gz")
     compress("${CPACK_PANOREL_SOURCE_DIR}/CHANGELOG.md" "${doc}/changelog.gz")
+    if(component STREQUAL "development")
+        file(COPY "${CPACK_PANOREL_SOURCE_DIR}/README.md" "${CPACK_PANOREL_SOURCE_DIR}/SECURITY.md"
+            DESTINATION "${doc}")
+        file(COPY "${CPACK_PANOREL_SOURCE_DIR}/docs" DESTINATION "${doc}"
+            FILES_MATCHING PATTERN "*.md" PATTERN "*.png" PATTERN "*.svg")
+    endif()
     # Whatever the umask was.
     run(chmod -R u=rwX,go=rX "${tree}")
 endforeach()
