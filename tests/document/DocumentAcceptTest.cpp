@@ -117,6 +117,8 @@ void DocumentAcceptTest::stateText_data()
     QTest::newRow("a reference to white space") << QByteArray("&#10;aa") << QByteArray("aa");
     QTest::newRow("a comment") << QByteArray("aa<!-- cc -->bb") << QByteArray("aabb");
     QTest::newRow("a comment splitting a byte") << QByteArray("a<!-- -->a") << QByteArray("aa");
+    QTest::newRow("a comment behind three digits")
+        << QByteArray("aab<!-- -->b") << QByteArray("aabb");
     QTest::newRow("comments only") << QByteArray("<!-- aa --><!-- bb -->") << QByteArray();
     QTest::newRow("a comment at the end") << QByteArray("aabb<!-- cc -->") << QByteArray("aabb");
     QTest::newRow("several pieces")
