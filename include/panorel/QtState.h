@@ -21,13 +21,13 @@ namespace Panorel {
  *
  * A plain value that owns all it holds and touches no widget. read() fills it from bytes, write()
  * turns it into bytes, merge() combines two. Nested blocks may be of any depth: no operation here
- * recurses into them. Nothing throws, prints or logs on bad input.
+ * recurses into them. Bad input makes nothing print, log or, short of memory, throw.
  *
  * Reentrant; one value is used by one thread at a time.
  *
  * One bound is the caller's to set, on the size of blobs: the items that read() repeats (see there)
  * make a value take memory for as many items as one section has, times its records or lines. Where
- * there is no memory for them read() fails.
+ * there is no memory for them read() fails; a copy, and with it merge(), throws std::bad_alloc.
  */
 class PANOREL_EXPORT QtState
 {
@@ -186,8 +186,7 @@ public:
 
     /**
      * A new value with the marker, version and dock areas of @p a and the tool bars of @p b. A null
-     * @p b gives none; the tool bars of @p a and the dock areas of @p b are never used. Throws
-     * std::bad_alloc, as every copy, where there is no memory for it.
+     * @p b gives none; the tool bars of @p a and the dock areas of @p b are never used.
      */
     static QtState merge(const QtState& a, const QtState& b);
 
