@@ -19,6 +19,7 @@ set(options
     "-DPROGRAM=${PROJECT_SOURCE_DIR}/examples/01-first-layouts/main.cpp"
     "-DQt5_DIR=${Qt5_DIR}")
 
+get_property(prefix GLOBAL PROPERTY PANOREL_INSTALLED_PREFIX)
 add_test(NAME docs.link.installed COMMAND ${CMAKE_CTEST_COMMAND}
     --build-and-test
         "${CMAKE_CURRENT_BINARY_DIR}/link/installed"
@@ -27,7 +28,7 @@ add_test(NAME docs.link.installed COMMAND ${CMAKE_CTEST_COMMAND}
     --build-makeprogram "${CMAKE_MAKE_PROGRAM}"
     --build-project MyApplication
     --build-options ${options}
-        "-DCMAKE_PREFIX_PATH=${PROJECT_BINARY_DIR}/tests/package/work/prefix")
+        "-DCMAKE_PREFIX_PATH=${prefix}")
 set_tests_properties(docs.link.installed PROPERTIES FIXTURES_REQUIRED package.prefix)
 
 # Only as far as the target is found: package.addSubdirectory builds the library in such a project.
