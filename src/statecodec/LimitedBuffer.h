@@ -12,7 +12,12 @@ namespace Panorel::Detail {
 class LimitedBuffer : public QBuffer
 {
 public:
-    using QBuffer::QBuffer;
+    /** Open for writing; @p bytes must outlive it. */
+    explicit LimitedBuffer(QByteArray& bytes)
+        : QBuffer(&bytes)
+    {
+        QBuffer::open(QIODevice::WriteOnly);
+    }
 
 protected:
     qint64 writeData(const char* data, qint64 length) override

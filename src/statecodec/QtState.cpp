@@ -19,10 +19,8 @@ using Block = Dock::Block;
 using Item = Block::Item;
 using Line = QtState::ToolBarAreaLayout::Line;
 using Detail::ByteRun;
-using Detail::LimitedBuffer;
 
-// The in-class initialisers make them usable as constants; the definitions give them addresses
-// that are exported.
+// Their values stand in the class; defined here they have addresses, which are exported.
 const int QtState::QMainWindowLayout_VersionMarker;
 const unsigned char QtState::QToolBarAreaLayout_ToolBarStateMarker;
 const unsigned char QtState::QToolBarAreaLayout_ToolBarStateMarkerEx;
@@ -150,8 +148,7 @@ bool QtState::read(const QByteArray& state)
         return false;
     try {
         return readSections(stream);
-    } catch (const std::bad_alloc&) {
-        // Repeated items can take far more memory than the blob.
+    } catch (const std::bad_alloc&) { // Repeated items can take far more memory than the blob.
         return false;
     }
 }
@@ -284,8 +281,7 @@ bool QtState::readToolBarAreaLayout(QDataStream& stream, int marker)
 QByteArray QtState::write() const
 {
     QByteArray state;
-    LimitedBuffer buffer(&state);
-    buffer.open(QIODevice::WriteOnly);
+    Detail::LimitedBuffer buffer(state);
     QDataStream stream(&buffer);
     try {
         stream << m_versionMarker << m_version;
