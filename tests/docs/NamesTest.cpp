@@ -60,6 +60,21 @@ QByteArray documentWithPlugin()
     return manager.toXml(/*markActive=*/true);
 }
 
+/** A program that has read a document and lacks the dock widget of the plugin. */
+struct LaterRun
+{
+    explicit LaterRun(const QByteArray& document = documentWithPlugin(), bool mergeOnApply = false)
+        : manager({"Group"_s}, mergeOnApply)
+    {
+        manager.registerManagable(window);
+        isLoaded = manager.fromXml(document, /*merge=*/false);
+    }
+
+    Manager manager;
+    EditorWindow window;
+    bool isLoaded;
+};
+
 } // namespace
 
 /** What the guide says of object names, and of dock widgets that come late. */
@@ -146,48 +161,40 @@ void NamesTest::aLateDockGetsItsPlace_data()
 void NamesTest::aLateDockGetsItsPlace()
 {
     QFETCH(bool, mergeOnApply);
-    EditorWindow window;
-    Manager manager({"Group"_s}, mergeOnApply);
-    manager.registerManagable(window);
-    QVERIFY(manager.fromXml(documentWithPlugin(), /*merge=*/false));
+    LaterRun run(documentWithPlugin(), mergeOnApply);
+    QVERIFY(run.isLoaded);
     QDockWidget* plugin = makeDock("plugin"_s);
-    addLater(window, plugin, Qt::BottomDockWidgetArea);
-    QCOMPARE(window.dockWidgetArea(plugin), Qt::RightDockWidgetArea);
+    addLater(run.window, plugin, Qt::BottomDockWidgetArea);
+    QCOMPARE(run.window.dockWidgetArea(plugin), Qt::RightDockWidgetArea);
 }
 
 void NamesTest::addDockWidgetAloneDoesNotLookForIt()
 {
-    EditorWindow window;
-    Manager manager({"Group"_s}, /*mergeOnApply=*/false);
-    manager.registerManagable(window);
-    QVERIFY(manager.fromXml(documentWithPlugin(), /*merge=*/false));
+    LaterRun run;
+    QVERIFY(run.isLoaded);
     QDockWidget* plugin = makeDock("plugin"_s);
-    window.addDockWidget(Qt::BottomDockWidgetArea, plugin);
-    window.restoreDockWidget(plugin); // Too late.
-    QCOMPARE(window.dockWidgetArea(plugin), Qt::BottomDockWidgetArea);
+    run.window.addDockWidget(Qt::BottomDockWidgetArea, plugin);
+    run.window.restoreDockWidget(plugin); // Too late.
+    QCOMPARE(run.window.dockWidgetArea(plugin), Qt::BottomDockWidgetArea);
 }
 
 void NamesTest::theNextSwitchPlacesIt()
 {
-    EditorWindow window;
-    Manager manager({"Group"_s}, /*mergeOnApply=*/false);
-    manager.registerManagable(window);
-    QVERIFY(manager.fromXml(documentWithPlugin(), /*merge=*/false));
+    LaterRun run;
+    QVERIFY(run.isLoaded);
     QDockWidget* plugin = makeDock("plugin"_s);
-    window.addDockWidget(Qt::BottomDockWidgetArea, plugin);
-    QVERIFY(manager.activateView("Mine"_s));
-    QCOMPARE(window.dockWidgetArea(plugin), Qt::RightDockWidgetArea);
+    run.window.addDockWidget(Qt::BottomDockWidgetArea, plugin);
+    QVERIFY(run.manager.activateView("Mine"_s));
+    QCOMPARE(run.window.dockWidgetArea(plugin), Qt::RightDockWidgetArea);
 }
 
 void NamesTest::anUnknownDockIsAddedSomewhere()
 {
-    EditorWindow window;
-    Manager manager({"Group"_s}, /*mergeOnApply=*/false);
-    manager.registerManagable(window);
-    QVERIFY(manager.fromXml(documentWithPlugin(), /*merge=*/false));
+    LaterRun run;
+    QVERIFY(run.isLoaded);
     QDockWidget* unknown = makeDock("unknown"_s);
-    addLater(window, unknown, Qt::TopDockWidgetArea);
-    QCOMPARE(window.dockWidgetArea(unknown), Qt::TopDockWidgetArea);
+    addLater(run.window, unknown, Qt::TopDockWidgetArea);
+    QCOMPARE(run.window.dockWidgetArea(unknown), Qt::TopDockWidgetArea);
 }
 
 void NamesTest::thePlaceIsKeptByRunsWithoutTheDock_data()
@@ -200,20 +207,16 @@ void NamesTest::thePlaceIsKeptByRunsWithoutTheDock()
     QFETCH(bool, mergeOnApply);
     QByteArray document = documentWithPlugin();
     {
-        EditorWindow window;
-        Manager manager({"Group"_s}, mergeOnApply);
-        manager.registerManagable(window);
-        QVERIFY(manager.fromXml(document, /*merge=*/false));
-        manager.saveCurrentViewAs("Mine"_s); // Saved anew, without the dock widget.
-        document = manager.toXml(/*markActive=*/true);
+        LaterRun run(document, mergeOnApply);
+        QVERIFY(run.isLoaded);
+        run.manager.saveCurrentViewAs("Mine"_s); // Saved anew, without the dock widget.
+        document = run.manager.toXml(/*markActive=*/true);
     }
-    EditorWindow window;
-    Manager manager({"Group"_s}, mergeOnApply);
-    manager.registerManagable(window);
-    QVERIFY(manager.fromXml(document, /*merge=*/false));
+    LaterRun run(document, mergeOnApply);
+    QVERIFY(run.isLoaded);
     QDockWidget* plugin = makeDock("plugin"_s);
-    addLater(window, plugin, Qt::BottomDockWidgetArea);
-    QCOMPARE(window.dockWidgetArea(plugin), Qt::RightDockWidgetArea);
+    addLater(run.window, plugin, Qt::BottomDockWidgetArea);
+    QCOMPARE(run.window.dockWidgetArea(plugin), Qt::RightDockWidgetArea);
 }
 
 } // namespace Panorel::Tests
