@@ -1,0 +1,8 @@
+// SPDX-License-Identifier: MIT
+#include "module/TranslationContext.h"
+
+namespace {
+
+const Panorel::Detail::TranslationContext context("PanorelKit");
+
+} // namespace
