@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <panorel/kit/PanorelKitExport.h>
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+
+class QDockWidget;
+class QMainWindow;
+class QMenu;
+class QToolButton;
+class QWidget;
+
+namespace Panorel {
+class IManagable;
+class Manager;
+} // namespace Panorel
+
+namespace Panorel::Kit {
+
+namespace Detail {
+struct Session;
+} // namespace Detail
+
+/**
+ * Looks after the layouts of an application's main windows on top of a Manager.
+ *
+ * It registers an owner of its own with the Manager, once, at construction, and through it takes
+ * part in every capture and restore, whoever asks for it. The Manager keeps working as it is
+ * documented.
+ *
+ * Manager, Layouts, windows and everything made by Layouts may be destroyed in any order. What the
+ * Manager still needs after that is its child. Without its Manager a Layouts does nothing; without
+ * Layouts the Manager goes on with the windows that are left. GUI thread only. Nothing throws.
+ */
+class PANORELKIT_EXPORT Layouts : public QObject
+{
+    Q_OBJECT
+
+public:
+    /**
+     * Looks after the layouts of @p manager.
+     * @param manager not owned. Its windows are added here, not by Manager::registerManagable().
+     * @param parent deletes this object with itself; may be null.
+     */
+    explicit Layouts(Manager& manager, QObject* parent = nullptr);
+    /** Saves what has changed since the last time. */
+    ~Layouts() override;
+
+    /**
+     * Adds a window, which need not be shown yet; not owned. A window that is there already is not
+     * added again.
+     * @param id names the window in every stored layout, so keep it stable between runs; where it
+     * is empty, the window's objectName is taken, or else "window", "window-2" and so on in the
+     * order of the calls.
+     */
+    void addWindow(QMainWindow& window, const QString& id = QString());
+
+    /**
+     * Adds the windows of an owner that the application has already, which is not registered with
+     * the Manager as well. It is asked as IManagable says and must outlive the Manager's last
+     * capture and restore; one that is a QObject too may be deleted at any time.
+     */
+    void addOwner(IManagable& owner);
+
+    /**
+     * Creates a dock widget as soon as a layout that a window has or gets mentions it and the
+     * window does not have it; it gets its place in the layout. That may be at once. A dock widget
+     * that nobody creates keeps its place for later, also in layouts that are saved meanwhile.
+     * @param objectName the name in the layouts; the new dock widget gets it.
+     * @param create returns the dock widget, which may be in the window already, or null. The
+     * window takes it over. Called for each window that mentions the name.
+     */
+    void addDock(const QString& objectName, std::function<QDockWidget*()> create);
+
+    /**
+     * Loads the layouts and keeps them in the file from now on: they are saved soon after each
+     * change, when the windows are closed and when the program ends. Call it before or after the
+     * windows are added and shown; each gets its size and place at once, and its layout as soon as
+     * it is on the screen at its real size. A window that is added later gets its part then.
+     *
+     * The file is written whole or not at all, and what it was at the last three starts is kept
+     * beside it. A file that cannot be read is renamed and reported, and the newest good one is
+     * used in its place. One of another version stays, and changes nothing, until there are
+     * layouts to save; then it is renamed too. Layouts that another program has saved in it
+     * meanwhile are taken over; one that both have changed is kept twice.
+     * @param fileName where; an empty one is "layouts.views" in the usual folder,
+     * QStandardPaths::AppDataLocation.
+     */
+    void start(const QString& fileName = QString());
+
+    /**
+     * Makes a menu: a Panorel::Menu with all entries, with a field for new names that is ready for
+     * typing, names as they are, and exports and imports that damage no file and refuse what is not
+     * sound. What is done is told by message(). Any number can be made; each may outlive this
+     * object and the Manager, and is disabled without the latter.
+     * @param parent deletes the menu; may be null.
+     */
+    QMenu* createMenu(QWidget* parent);
+    /** Makes a tool button in the same way: a Panorel::ViewButton whose tool tip names the active
+        layout. */
+    QToolButton* createButton(QWidget* parent);
+
+    /**
+     * Adds the layouts of a file to those that are there, in place of those of the same name, and
+     * shows its working layout. Parts that are not sound are left out.
+     * @param problem if not null, gets why nothing was changed, in the user's language; else null.
+     * @return false if nothing was changed. Anything is refused that is not a document of layouts
+     * for one of the Manager's groups.
+     */
+    bool importFile(const QString& fileName, QString* problem = nullptr);
+
+    /** Saves now if anything has changed. @return false if that fails, see problem(), and before
+        start(). What could not be saved is tried again at the next change and every 30 seconds. */
+    bool save();
+
+    /** Why the layouts were not loaded or could not be saved, in the user's language; empty once
+        they are saved. */
+    QString problem() const;
+
+    /**
+     * What no layout can hold in the windows as they are now, one sentence in the user's language
+     * for each: parts without a name, names that two parts have, dock widgets that are in none of
+     * the window's areas, a missing central widget. Empty if all is well; a test can demand that.
+     */
+    QStringList check() const;
+
+Q_SIGNALS:
+    /** One sentence for the user, such as for a status bar. A problem() is told once. */
+    void message(const QString& text);
+
+private:
+    /** Null once the Manager is gone. */
+    std::unique_ptr<Detail::Session> m_session;
+};
+
+} // namespace Panorel::Kit

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "MenuFactory.h"
+
+#include "ButtonCures.h"
+#include "EntryTexts.h"
+#include "FileEntries.h"
+#include "NameField.h"
+
+#include <panorel/Manager.h>
+#include <panorel/Menu.h>
+#include <panorel/ViewButton.h>
+#include <panorel/kit/Layouts.h>
+
+#include <QCoreApplication>
+
+namespace Panorel::Kit::Detail {
+
+namespace {
+
+class Text
+{
+    Q_DECLARE_TR_FUNCTIONS(Panorel::Kit::Menu)
+};
+
+// Without the Manager nothing in the menu may call it.
+void retire(Menu& menu)
+{
+    qDeleteAll(menu.findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly));
+    QList<QAction*> actions = menu.findChildren<QAction*>(QString(), Qt::FindDirectChildrenOnly);
+    actions.removeOne(menu.menuAction()); // It belongs to the menu itself.
+    qDeleteAll(actions);
+    menu.setEnabled(false);
+}
+
+void cure(Menu& menu, Layouts& layouts, Manager& manager)
+{
+    // A hundred layouts are more than a screen has room for.
+    menu.setStyleSheet(QStringLiteral("QMenu { menu-scrollable: 1; }"));
+    new EntryTexts(menu, manager);
+    auto* nameField = new NameField(menu);
+    QObject::connect(nameField, &NameField::message, &layouts, &Layouts::message);
+    QObject::connect(&manager, &QObject::destroyed, &menu, [&menu] { retire(menu); });
+}
+
+} // namespace
+
+Menu* MenuFactory::createMenu(Layouts& layouts, Manager& manager, Transfer& transfer,
+                              QWidget* parent)
+{
+    auto* menu = new Menu(&manager, /*extended=*/true, parent);
+    menu->setTitle(Text::tr("&Layouts"));
+    cure(*menu, layouts, manager);
+    auto* files = new FileEntries(*menu, transfer);
+    QObject::connect(files, &FileEntries::message, &layouts, &Layouts::message);
+    return menu;
+}
+
+ViewButton* MenuFactory::createButton(Layouts& layouts, Manager& manager, QWidget* parent)
+{
+    auto* button = new ViewButton(&manager, Text::tr("Layouts"), parent);
+    // The button's menu is its child.
+    cure(*static_cast<Menu*>(button->menu()), layouts, manager);
+    new ButtonCures(*button, manager);
+    return button;
+}
+
+} // namespace Panorel::Kit::Detail

@@ -1,0 +1,260 @@
+// SPDX-License-Identifier: MIT
+#include "Keeper.h"
+
+#include "Activity.h"
+#include "Geometries.h"
+#include "StoredViews.h"
+#include "WindowOwner.h"
+#include "Windows.h"
+
+#include <panorel/Manager.h>
+#include <panorel/kit/LayoutDocument.h>
+#include <panorel/kit/WindowState.h>
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QSessionManager>
+
+#include <algorithm>
+
+namespace Panorel::Kit::Detail {
+
+namespace {
+
+constexpr auto version = "1.1.0";
+// After the first change; what comes meanwhile is saved with it.
+constexpr int savingDelay = 500;
+// While the file cannot be written.
+constexpr int retryDelay = 30000;
+
+// Drops what would harm a window, and what merging has repeated. Whether anything was dropped that
+// a user may miss.
+bool tidy(StateMap& states)
+{
+    bool dropped = false;
+    for (auto state = states.begin(); state != states.end();) {
+        const WindowState read(*state);
+        if (read.isSound()) {
+            *state = read.tidied();
+            ++state;
+            continue;
+        }
+        dropped = true;
+        state = states.erase(state);
+    }
+    return dropped;
+}
+
+bool tidy(Snapshot& snapshot)
+{
+    bool dropped = tidy(snapshot.toolBarStates);
+    for (Snapshot::Group& group : snapshot.groups) {
+        dropped = tidy(group.current.states) || dropped;
+        for (Snapshot::View& view : group.views)
+            dropped = tidy(view.states) || dropped;
+    }
+    return dropped;
+}
+
+bool hasViews(const Snapshot& snapshot)
+{
+    return std::any_of(snapshot.groups.cbegin(), snapshot.groups.cend(),
+                       [](const Snapshot::Group& group) { return !group.views.isEmpty(); });
+}
+
+} // namespace
+
+Keeper::Keeper(Manager& manager, WindowOwner& owner, StoredViews& stored, Activity& activity,
+               Windows& windows)
+    : m_manager(manager)
+    , m_owner(owner)
+    , m_stored(stored)
+    , m_activity(activity)
+    , m_windows(windows)
+{
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, &Keeper::save);
+}
+
+Keeper::~Keeper()
+{
+    (void)save(); // There is nobody left to tell.
+}
+
+void Keeper::start(const QString& fileName)
+{
+    m_storage = std::make_unique<Storage>(fileName);
+    m_windows.update();
+    load();
+    connect(&m_activity, &Activity::changed, this, &Keeper::saveSoon, Qt::UniqueConnection);
+    connect(&m_windows, &Windows::touched, this, &Keeper::saveSoon, Qt::UniqueConnection);
+    connect(&m_windows, &Windows::closing, this, &Keeper::saveSoon, Qt::UniqueConnection);
+    // The first of them before Qt closes floating dock widgets, the last when the program quits
+    // without closing its windows.
+    connect(qApp, &QGuiApplication::lastWindowClosed, this, &Keeper::save, Qt::UniqueConnection);
+    connect(qApp, &QGuiApplication::commitDataRequest, this, &Keeper::save, Qt::UniqueConnection);
+    connect(qApp, &QCoreApplication::aboutToQuit, this, &Keeper::save, Qt::UniqueConnection);
+}
+
+void Keeper::stop()
+{
+    m_storage.reset();
+    m_timer.stop();
+}
+
+void Keeper::load()
+{
+    const Storage::Lock lock(*m_storage);
+    QString problem;
+    QByteArray bytes = m_storage->read(&problem);
+    if (bytes.isNull() && problem.isEmpty())
+        return;
+    if (problem.isEmpty()) {
+        const LayoutDocument document(bytes);
+        if (document.isReadable() && document.version() != QLatin1String(version)) {
+            m_isOtherVersion = true;
+            tell(tr("The layouts in %1 are of another version of this program. They stay as they "
+                    "are.")
+                     .arg(m_storage->readableName()));
+            return;
+        }
+        if (document.isReadable()) {
+            m_known = bytes;
+            m_storage->keepCopy(bytes);
+            takeOver(bytes);
+            return;
+        }
+        problem = tr("It is damaged.");
+    }
+    moveAway(problem);
+    bytes = m_storage->newestCopy();
+    if (LayoutDocument(bytes).isReadable())
+        takeOver(bytes);
+}
+
+void Keeper::takeOver(const QByteArray& document)
+{
+    Snapshot snapshot = Snapshot::fromXml(document);
+    if (tidy(snapshot))
+        tell(tr("Some of the layouts in %1 are damaged and were left out.")
+                 .arg(m_storage->readableName()));
+    giveToManager(snapshot);
+    if (!snapshot.groups.isEmpty())
+        m_settings = Geometries::settingsIn(snapshot.groups.constFirst().current.userData);
+    const QString group = m_settings.value(QLatin1String("group")).toString();
+    if (group != m_manager.activeGroup()) {
+        const WindowOwner::Silence silence(m_owner);
+        (void)m_manager.activateGroup(group); // One that is gone is not activated.
+    }
+    if (const Snapshot::Group* const active = snapshot.find(m_manager.activeGroup()))
+        m_windows.begin(Geometries::withToolBars(active->current.states, snapshot.toolBarStates),
+                        Geometries::read(m_settings));
+}
+
+// The Manager gets the layouts without the windows, each of which gets its part at its own time.
+void Keeper::giveToManager(const Snapshot& snapshot)
+{
+    const WindowOwner::Silence silence(m_owner);
+    (void)m_manager.fromXml(snapshot.toXml(), /*merge=*/false); // It is valid.
+    m_stored.read(snapshot);
+}
+
+Snapshot Keeper::current()
+{
+    Snapshot snapshot;
+    {
+        const WindowOwner::Silence silence(m_owner);
+        snapshot = Snapshot::fromXml(m_manager.toXml(/*markActive=*/true));
+    }
+    m_stored.read(snapshot);
+    if (Snapshot::Group* const active = snapshot.find(m_manager.activeGroup()))
+        active->current.states = m_windows.states();
+    if (m_activity.merges())
+        snapshot.toolBarStates = m_windows.states();
+    Geometries::write(m_settings, m_windows.geometries());
+    m_settings.insert(QLatin1String("group"), m_manager.activeGroup());
+    QString& userData = snapshot.groups.first().current.userData;
+    userData = Geometries::withSettings(userData, m_settings);
+    return snapshot;
+}
+
+bool Keeper::save()
+{
+    m_timer.stop();
+    if (!m_storage)
+        return false;
+    Snapshot snapshot = current();
+    if (snapshot.toXml() == m_known)
+        return m_problem.isEmpty();
+    if (m_isOtherVersion && !hasViews(snapshot))
+        return true;
+    const Storage::Lock lock(*m_storage);
+    mergeOthers(snapshot);
+    return write(snapshot.toXml());
+}
+
+void Keeper::mergeOthers(Snapshot& snapshot)
+{
+    QString problem;
+    const QByteArray bytes = m_storage->read(&problem);
+    if (problem.isEmpty() && (bytes.isNull() || bytes == m_known))
+        return;
+    const LayoutDocument document(bytes);
+    if (!document.isReadable() || document.version() != QLatin1String(version)) {
+        m_isOtherVersion = false;
+        moveAway(problem.isEmpty() ? tr("It is of another version of this program, or damaged.")
+                                   : problem);
+        return;
+    }
+    Snapshot others = Snapshot::fromXml(bytes);
+    (void)tidy(others); // It was reported when it was written.
+    const Snapshot merged = Snapshot::merged(Snapshot::fromXml(m_known), snapshot, others);
+    if (haveSameViews(merged, snapshot))
+        return;
+    snapshot = merged;
+    giveToManager(snapshot);
+}
+
+bool Keeper::write(const QByteArray& document)
+{
+    const QString problem = m_storage->write(document);
+    if (problem.isEmpty()) {
+        m_known = document;
+        m_problem.clear();
+        return true;
+    }
+    tell(tr("The layouts could not be saved in %1: %2").arg(m_storage->readableName(), problem));
+    m_timer.start(retryDelay);
+    return false;
+}
+
+// Nobody overwrites it then, and the user can still look into it.
+void Keeper::moveAway(const QString& reason)
+{
+    const QString name = m_storage->moveAway();
+    const QString problem = tr("The file with your layouts, %1, cannot be read. %2")
+                                .arg(m_storage->readableName(), reason);
+    if (!name.isEmpty()) {
+        tell(problem + QLatin1Char(' ') + tr("It is kept as %1.").arg(QFileInfo(name).fileName()));
+        return;
+    }
+    tell(problem + QLatin1Char(' ') +
+         tr("It stays as it is, and layouts are not saved in this run."));
+    stop();
+}
+
+void Keeper::saveSoon()
+{
+    if (m_storage && !m_timer.isActive())
+        m_timer.start(savingDelay);
+}
+
+void Keeper::tell(const QString& problem)
+{
+    if (problem == m_problem)
+        return;
+    m_problem = problem;
+    Q_EMIT message(problem);
+}
+
+} // namespace Panorel::Kit::Detail

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Snapshot.h"
+#include "Storage.h"
+
+#include <QJsonObject>
+#include <QObject>
+#include <QString>
+#include <QTimer>
+
+#include <memory>
+
+namespace Panorel {
+class Manager;
+} // namespace Panorel
+
+namespace Panorel::Kit::Detail {
+
+class Activity;
+class StoredViews;
+class WindowOwner;
+class Windows;
+
+/** Keeps the Manager's document in a file: loads it at the start, saves it after each change. */
+class Keeper : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** All must outlive this object. */
+    Keeper(Manager& manager, WindowOwner& owner, StoredViews& stored, Activity& activity,
+           Windows& windows);
+    ~Keeper() override;
+
+    /** Loads the file and saves in it from now on. */
+    void start(const QString& fileName);
+    bool hasStarted() const { return m_storage != nullptr; }
+    /** Neither loads nor saves any more. */
+    void stop();
+    /** Saves if anything has changed. @return whether the file is what it should be. */
+    bool save();
+    /** Why the file could not be read or saved, as long as that is so. */
+    QString problem() const { return m_problem; }
+
+    /** What else is kept in the file; a change is saved with the next one. */
+    QJsonObject& settings() { return m_settings; }
+
+Q_SIGNALS:
+    /** One sentence for the user. */
+    void message(const QString& text);
+
+private:
+    void load();
+    void takeOver(const QByteArray& document);
+    void giveToManager(const Snapshot& snapshot);
+    void beginWindows(const Snapshot& snapshot);
+    Snapshot current();
+    bool write(const QByteArray& document);
+    void mergeOthers(Snapshot& snapshot);
+    void moveAway(const QString& reason);
+    void saveSoon();
+    void tell(const QString& problem);
+
+    Manager& m_manager;
+    WindowOwner& m_owner;
+    StoredViews& m_stored;
+    Activity& m_activity;
+    Windows& m_windows;
+    std::unique_ptr<Storage> m_storage;
+    /** What is in the file as far as this program knows. */
+    QByteArray m_known;
+    QJsonObject m_settings;
+    QString m_problem;
+    QTimer m_timer;
+    /** Whether the file is of another version. It stays until there are layouts to save. */
+    bool m_isOtherVersion = false;
+};
+
+} // namespace Panorel::Kit::Detail

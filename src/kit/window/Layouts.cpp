@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#include <panorel/kit/Layouts.h>
+
+#include "Doctor.h"
+#include "Session.h"
+
+#include "../menu/MenuFactory.h"
+
+#include <panorel/Manager.h>
+#include <panorel/Menu.h>
+#include <panorel/ViewButton.h>
+
+#include <utility>
+
+namespace Panorel::Kit {
+
+Layouts::Layouts(Manager& manager, QObject* parent)
+    : QObject(parent)
+    , m_session(std::make_unique<Detail::Session>(manager, *new Detail::WindowOwner(manager)))
+{
+    // While the owner, which is its child, is still there.
+    connect(&manager, &QObject::destroyed, this, [this] {
+        m_session->keeper.stop();
+        m_session.reset();
+    });
+    connect(&m_session->keeper, &Detail::Keeper::message, this, &Layouts::message);
+    connect(&m_session->transfer, &Detail::Transfer::message, this, &Layouts::message);
+}
+
+Layouts::~Layouts() = default;
+
+void Layouts::addWindow(QMainWindow& window, const QString& id)
+{
+    if (!m_session)
+        return;
+    Detail::Names::choose(window);
+    m_session->owner.addWindow(window, id);
+    m_session->windows.update();
+}
+
+void Layouts::addOwner(IManagable& owner)
+{
+    if (!m_session)
+        return;
+    m_session->owner.addOwner(owner);
+    m_session->windows.update();
+}
+
+void Layouts::addDock(const QString& objectName, std::function<QDockWidget*()> create)
+{
+    if (!m_session)
+        return;
+    m_session->docks.add(objectName, std::move(create));
+    m_session->giver.createMissingDocks();
+}
+
+void Layouts::start(const QString& fileName)
+{
+    if (!m_session)
+        return;
+    m_session->keeper.start(fileName);
+    const QList<ManagedWindow> windows = m_session->owner.windows();
+    for (const ManagedWindow& managed : windows) {
+        if (managed.window)
+            Detail::Doctor::tell(*managed.window);
+    }
+}
+
+QMenu* Layouts::createMenu(QWidget* parent)
+{
+    if (m_session)
+        return Detail::MenuFactory::createMenu(*this, m_session->manager, m_session->transfer,
+                                               parent);
+    auto* menu = new QMenu(parent);
+    menu->setEnabled(false);
+    return menu;
+}
+
+QToolButton* Layouts::createButton(QWidget* parent)
+{
+    if (m_session)
+        return Detail::MenuFactory::createButton(*this, m_session->manager, parent);
+    auto* button = new QToolButton(parent);
+    button->setEnabled(false);
+    return button;
+}
+
+bool Layouts::importFile(const QString& fileName, QString* problem)
+{
+    const QString reason =
+        m_session ? m_session->transfer.importFrom(fileName, Detail::Transfer::Mode::Add)
+                  : QStringLiteral("");
+    if (problem)
+        *problem = reason;
+    return m_session && reason.isNull();
+}
+
+bool Layouts::save()
+{
+    return m_session && m_session->keeper.save();
+}
+
+QString Layouts::problem() const
+{
+    return m_session ? m_session->keeper.problem() : QString();
+}
+
+QStringList Layouts::check() const
+{
+    QStringList found;
+    if (!m_session)
+        return found;
+    const QList<ManagedWindow> windows = m_session->owner.windows();
+    for (const ManagedWindow& managed : windows) {
+        if (managed.window)
+            found += Detail::Doctor::check(*managed.window);
+    }
+    return found;
+}
+
+} // namespace Panorel::Kit

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#include "Session.h"
+
+namespace Panorel::Kit::Detail {
+
+Session::Session(Manager& theManager, WindowOwner& theOwner)
+    : manager(theManager)
+    , owner(theOwner)
+    , stored(manager, owner)
+    , giver(owner, names, docks)
+    , activity(manager, owner, stored, giver)
+    , windows(owner, giver)
+    , keeper(manager, owner, stored, activity, windows)
+    , transfer(manager)
+{}
+
+} // namespace Panorel::Kit::Detail

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Activity.h"
+#include "DockFactory.h"
+#include "Giver.h"
+#include "Keeper.h"
+#include "Names.h"
+#include "StoredViews.h"
+#include "Transfer.h"
+#include "WindowOwner.h"
+#include "Windows.h"
+
+namespace Panorel::Kit::Detail {
+
+/** All that a Layouts is made of, as long as its Manager lives. Each knows those before it only. */
+struct Session
+{
+    explicit Session(Manager& manager, WindowOwner& owner);
+
+    Manager& manager;
+    WindowOwner& owner;
+    Names names;
+    DockFactory docks;
+    StoredViews stored;
+    Giver giver;
+    Activity activity;
+    Windows windows;
+    Keeper keeper;
+    Transfer transfer;
+};
+
+} // namespace Panorel::Kit::Detail

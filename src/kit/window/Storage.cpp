@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+#include "Storage.h"
+
+#include <panorel/kit/LayoutFile.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+namespace Panorel::Kit::Detail {
+
+namespace {
+
+constexpr int copies = 3;
+constexpr int patience = 2000;
+
+QByteArray contentOf(const QString& name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+Storage::Storage(const QString& fileName)
+    : m_fileName(fileName.isEmpty() ? usualFileName() : QFileInfo(fileName).absoluteFilePath())
+{}
+
+QString Storage::usualFileName()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
+           QStringLiteral("/layouts.views");
+}
+
+QString Storage::readableName() const
+{
+    return QDir::toNativeSeparators(m_fileName);
+}
+
+Storage::Lock::Lock(const Storage& storage)
+    : m_file(storage.m_fileName + QStringLiteral(".lock"))
+{
+    (void)m_file.tryLock(patience); // Without the folder's rights there is no lock at all.
+}
+
+QByteArray Storage::read(QString* problem) const
+{
+    if (!QFileInfo::exists(m_fileName))
+        return QByteArray();
+    const LayoutFile file = LayoutFile::read(m_fileName);
+    *problem = file.error();
+    return file.bytes();
+}
+
+QString Storage::write(const QByteArray& content)
+{
+    (void)QDir().mkpath(QFileInfo(m_fileName).absolutePath()); // If it fails, so does open().
+    QSaveFile file(m_fileName);
+    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
+        return QString();
+    return file.errorString();
+}
+
+void Storage::keepCopy(const QByteArray& content) const
+{
+    if (newestCopy() == content)
+        return;
+    QSaveFile newest(copyName(1) + QStringLiteral(".new"));
+    if (!newest.open(QIODevice::WriteOnly) || newest.write(content) != content.size() ||
+        !newest.commit())
+        return;
+    (void)QFile::remove(copyName(copies));
+    for (int number = copies; number > 1; --number)
+        (void)QFile::rename(copyName(number - 1), copyName(number));
+    (void)QFile::rename(newest.fileName(), copyName(1));
+}
+
+QByteArray Storage::newestCopy() const
+{
+    for (int number = 1; number <= copies; ++number) {
+        QByteArray content = contentOf(copyName(number));
+        if (!content.isEmpty())
+            return content;
+    }
+    return QByteArray();
+}
+
+QString Storage::moveAway() const
+{
+    QString name;
+    for (int number = 1; name.isEmpty() || QFileInfo::exists(name); ++number)
+        name = QStringLiteral("%1.unreadable-%2").arg(m_fileName).arg(number);
+    return QFile::rename(m_fileName, name) ? name : QString();
+}
+
+QString Storage::copyName(int number) const
+{
+    return QStringLiteral("%1.%2").arg(m_fileName).arg(number);
+}
+
+} // namespace Panorel::Kit::Detail

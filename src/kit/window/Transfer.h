@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+namespace Panorel {
+class Manager;
+} // namespace Panorel
+
+namespace Panorel::Kit {
+class LayoutDocument;
+} // namespace Panorel::Kit
+
+namespace Panorel::Kit::Detail {
+
+/** Brings layouts into files and out of files that may hold anything. */
+class Transfer : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** @param manager must outlive this object. */
+    explicit Transfer(Manager& manager);
+    ~Transfer() override;
+
+    /** What becomes of the layouts that are there. */
+    enum class Mode {
+        /** The file's take the place of all. */
+        Replace,
+        /** The file's are added; those of the same name are replaced. */
+        Add
+    };
+
+    /** Writes all layouts. An existing file is replaced whole or stays as it is. @return why it
+        failed, in words; null if it did not. */
+    QString exportTo(const QString& fileName);
+    /** Takes the layouts of a file, without those that are not sound. @return why nothing was
+        changed, in words; null if it was. */
+    QString importFrom(const QString& fileName, Mode mode);
+    /** The same with a document that has been read already. @param name of the file for messages.
+     */
+    QString importDocument(LayoutDocument document, const QString& name, Mode mode);
+
+Q_SIGNALS:
+    /** @p document, whose layouts are named @p name, is about to be taken over. */
+    void importing(const QString& name);
+    /** Something was done; a sentence for the user. */
+    void message(const QString& text);
+
+private:
+    bool hasViews(const LayoutDocument& document) const;
+
+    Manager& m_manager;
+};
+
+} // namespace Panorel::Kit::Detail
