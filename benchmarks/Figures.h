@@ -8,7 +8,11 @@
 QVector<Figure> codecFigures();
 QVector<Figure> managerFigures();
 QVector<Figure> documentFigures();
+QVector<Figure> guardFigures();
 QVector<Figure> menuFigures();
+QVector<Figure> pictureFigures();
+QVector<Figure> stateFigures();
+QVector<Figure> layoutDocumentFigures();
 
 /** The heap that 1,000 stored views of two windows take, against the bytes of their layouts. */
 Result memoryOfViews(int dockCount);

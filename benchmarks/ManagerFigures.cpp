@@ -3,12 +3,10 @@
 #include "Windows.h"
 
 #include <panorel/Manager.h>
-#include <panorel/QtState.h>
 
 namespace {
 
 using Panorel::Manager;
-using Panorel::QtState;
 
 const QString firstView = QStringLiteral("first");
 const QString secondView = QStringLiteral("second");
@@ -35,19 +33,6 @@ struct Stage
     QVector<QByteArray> second;
 };
 
-QVector<QByteArray> merged(const QVector<QByteArray>& stored, const QVector<QByteArray>& live)
-{
-    QVector<QByteArray> result;
-    for (int i = 0; i < stored.size(); ++i) {
-        QtState a;
-        QtState b;
-        (void)a.read(stored.at(i));
-        (void)b.read(live.at(i));
-        result.append(QtState::merge(a, b).write());
-    }
-    return result;
-}
-
 Figure plainSwitch(const std::shared_ptr<Stage>& stage)
 {
     Figure figure;
@@ -71,29 +56,31 @@ Figure plainSwitch(const std::shared_ptr<Stage>& stage)
     return figure;
 }
 
+// The tool bars of both arrangements are the same, so a merge without QtState's repeats would give
+// the stored bytes.
 Figure mergingSwitch(const std::shared_ptr<Stage>& stage)
 {
-    const QVector<QByteArray> first = merged(stage->first, stage->second);
-    const QVector<QByteArray> second = merged(stage->second, stage->first);
     Figure figure;
     figure.name = QStringLiteral("activateView merging");
-    figure.goal = 1.05;
+    figure.goal = 1.17;
     figure.subject = [stage] {
         stage->manager.activateView(firstView);
         stage->manager.activateView(secondView);
     };
-    figure.baseline = [stage, first, second] {
+    figure.baseline = [stage] {
         (void)stage->windows.save();
-        stage->windows.restore(first);
+        stage->windows.restore(stage->first);
         (void)stage->windows.save();
-        stage->windows.restore(second);
+        stage->windows.restore(stage->second);
     };
-    figure.check = [stage, first] {
+    // The bytes differ: with the Manager, the windows keep empty places for what is repeated.
+    figure.check = [stage] {
         stage->manager.activateView(firstView);
-        const QVector<QByteArray> byManager = stage->windows.save();
+        const QStringList byManager = stage->windows.places();
         stage->manager.activateView(secondView);
-        stage->windows.restore(first);
-        return byManager == stage->windows.save();
+        const QStringList other = stage->windows.places();
+        stage->windows.restore(stage->first);
+        return byManager == stage->windows.places() && byManager != other;
     };
     return figure;
 }
@@ -181,7 +168,8 @@ QVector<Setup> setups()
             {20, 5, 2, {{windows, 20}}},
             {1, 20, 10, {{views, 10}}},
             {1, 20, 100, {{views, 100}}},
-            {1, 20, 1000, {{views, 1000}}}};
+            {1, 20, 1000, {{views, 1000}}},
+            {1, 5, 1000, {}}};
 }
 
 void append(QVector<Figure>& figures, Figure figure, const Setup& setup)
@@ -201,8 +189,13 @@ QVector<Figure> managerFigures()
     for (const Setup& setup : all) {
         const auto plain = std::make_shared<Stage>(setup.windows, setup.docks, setup.views - 2,
                                                    /*mergeOnApply=*/false);
-        for (const auto& figure : {plainSwitch, groupSwitch, saving, creating})
-            append(figures, figure(plain), setup);
+        for (const auto& figureOf : {plainSwitch, groupSwitch, saving, creating}) {
+            Figure figure = figureOf(plain);
+            // The search for the name counts beside so small a window.
+            if (setup.views == 1000 && setup.docks == 5)
+                figure.goal = 1.2;
+            append(figures, figure, setup);
+        }
         const auto merging = std::make_shared<Stage>(setup.windows, setup.docks, setup.views - 2,
                                                      /*mergeOnApply=*/true);
         append(figures, mergingSwitch(merging), setup);

@@ -86,6 +86,27 @@ QVector<QByteArray> Windows::save() const
     return states;
 }
 
+QStringList Windows::places() const
+{
+    QStringList places;
+    for (const auto& window : m_windows) {
+        for (QDockWidget* dock : window->findChildren<QDockWidget*>())
+            places << QStringLiteral("%1: %2 %3 %4")
+                          .arg(dock->objectName())
+                          .arg(window->dockWidgetArea(dock))
+                          .arg(window->tabifiedDockWidgets(dock).size())
+                          .arg(dock->isHidden());
+        for (QToolBar* bar : window->findChildren<QToolBar*>())
+            places << QStringLiteral("%1: %2 %3 %4")
+                          .arg(bar->objectName())
+                          .arg(window->toolBarArea(bar))
+                          .arg(bar->x())
+                          .arg(bar->isHidden());
+    }
+    places.sort(); // A window changes the order of its children.
+    return places;
+}
+
 void Windows::restore(const QVector<QByteArray>& states)
 {
     for (std::size_t i = 0; i < m_windows.size(); ++i)

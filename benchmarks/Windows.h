@@ -20,6 +20,8 @@ public:
     QVector<QByteArray> arrangement(int shift);
 
     QVector<QByteArray> save() const;
+    /** Area, tabs or place, and visibility of each dock widget and tool bar. */
+    QStringList places() const;
     void restore(const QVector<QByteArray>& states);
 
 private:

@@ -28,7 +28,8 @@ int main(int argc, char* argv[])
 
     QVector<Result> results;
     printHeader();
-    for (const auto& figures : {codecFigures, managerFigures, documentFigures, menuFigures}) {
+    for (const auto& figures : {codecFigures, managerFigures, documentFigures, guardFigures,
+                                menuFigures, stateFigures, pictureFigures, layoutDocumentFigures}) {
         const QVector<Figure> group = figures();
         for (const Figure& figure : group) {
             if (!figure.name.contains(only))

@@ -19,7 +19,6 @@
 #include <memory>
 
 using namespace Panorel;
-using namespace Panorel::Fuzz;
 using namespace Panorel::Tests;
 
 namespace {

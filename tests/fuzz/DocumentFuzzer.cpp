@@ -20,7 +20,6 @@
 #include <QCoreApplication>
 
 using namespace Panorel;
-using namespace Panorel::Fuzz;
 using namespace Panorel::Tests;
 
 namespace {

@@ -14,7 +14,7 @@
 /** What a fuzzer is: called with one input, it returns or aborts. */
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
-namespace Panorel::Fuzz {
+namespace Panorel::Tests {
 
 /** What was being done, for the message of a violation. */
 inline QString context;
@@ -60,4 +60,4 @@ inline QByteArray bytes(const std::uint8_t* data, std::size_t size)
     return QByteArray(reinterpret_cast<const char*>(data), static_cast<int>(size));
 }
 
-} // namespace Panorel::Fuzz
+} // namespace Panorel::Tests

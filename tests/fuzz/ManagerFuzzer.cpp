@@ -12,7 +12,6 @@
 // documents may be validated.
 
 #include "Fuzz.h"
-#include "ManagerModel.h"
 #include "MenuReader.h"
 #include "ModelText.h"
 #include "support/Owner.h"
@@ -26,9 +25,10 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 using namespace Panorel;
-using namespace Panorel::Fuzz;
+using namespace Panorel::Tests;
 
 namespace {
 
@@ -38,7 +38,7 @@ const QString groupNames[] = {"G"_s, "H"_s, "unknown"_s};
 struct Document
 {
     QByteArray bytes;
-    ModelDocument content;
+    ArrangementModel::Document content;
 };
 
 class Session
@@ -51,6 +51,7 @@ public:
         , m_model({"G"_s, "H"_s}, (flags & 1) != 0)
         , m_validationsLeft((flags >> 2) % 4)
     {
+        m_model.onSignal = [this](const QString& signal) { m_modelSignals << signal; };
         if ((flags & 2) != 0)
             registerWindow(0);
         // So that there always is one to load.
@@ -134,7 +135,7 @@ private:
     void keepDocument(int argument)
     {
         const bool markActive = argument % 2 != 0;
-        Document kept{m_manager.toXml(markActive), m_model.write(markActive)};
+        Document kept{m_manager.toXml(markActive), m_model.toXml(markActive)};
         requireSame(QString::fromUtf8(kept.bytes), documentText(kept.content), "the document");
         m_documents.push_back(std::move(kept));
     }
@@ -144,7 +145,7 @@ private:
         const Document& loaded = document(argument / 2);
         const bool merge = argument % 2 != 0;
         require(m_manager.fromXml(loaded.bytes, merge), "a written document is accepted");
-        m_model.load(&loaded.content, merge);
+        (void)m_model.fromXml(loaded.content, merge);
     }
 
     void loadOtherVersion(int argument)
@@ -152,7 +153,7 @@ private:
         const QByteArray other = QByteArray(document(argument / 2).bytes).replace("1.1.0", "1.1");
         const bool merge = argument % 2 != 0;
         require(m_manager.fromXml(other, merge), "another version is accepted");
-        m_model.load(nullptr, merge);
+        (void)m_model.fromXml({}, merge);
     }
 
     void loadDamaged(int argument)
@@ -170,28 +171,20 @@ private:
         const Document& kept = document(argument / 2);
         if (argument % 2 != 0) {
             require(m_manager.setProgramStartView(kept.bytes), "the program start is kept");
-            m_programStart = kept.content;
-            m_model.emitSpecial("programStartViewChanged(true)"_s);
+            (void)m_model.setProgramStartView(kept.content);
         } else {
             require(m_manager.setFactoryDefaultView(kept.bytes), "the factory default is kept");
-            m_factoryDefault = kept.content;
-            m_model.emitSpecial("factoryDefaultViewChanged(true)"_s);
+            (void)m_model.setFactoryDefaultView(kept.content);
         }
-    }
-
-    void loadSpecial(const ModelDocument& special)
-    {
-        if (!special.groups.empty())
-            m_model.load(&special, /*merge=*/false);
     }
 
     void activateSpecial(int argument)
     {
-        const ModelDocument& special = argument % 2 != 0 ? m_programStart : m_factoryDefault;
-        requireResult(argument % 2 != 0 ? m_manager.activateProgramStartView()
-                                        : m_manager.activateFactoryDefaultView(),
-                      !special.groups.empty());
-        loadSpecial(special);
+        if (argument % 2 != 0)
+            requireResult(m_manager.activateProgramStartView(), m_model.activateProgramStartView());
+        else
+            requireResult(m_manager.activateFactoryDefaultView(),
+                          m_model.activateFactoryDefaultView());
     }
 
     void moveDock(int argument)
@@ -225,10 +218,10 @@ private:
 
     void toggleView(int)
     {
-        const QStringList names = modelNames();
+        const QStringList names = m_model.views();
         const int checked = m_checked.isNull() ? -1 : names.indexOf(m_checked);
         m_menu.toggleView();
-        // Behind the last one comes the first, but never the checked one again.
+        // After the last one comes the first, but never the checked one again.
         const int next = checked + 1 < names.size() ? checked + 1 : 0;
         if (next != checked && next < names.size())
             (void)m_model.activateView(names[next]);
@@ -240,7 +233,7 @@ private:
         if (!entry)
             return;
         // The mark moves even when the Manager then refuses the name, an empty one.
-        m_checked = modelNames()[argument % modelNames().size()];
+        m_checked = m_model.views()[argument % m_model.views().size()];
         const QString name = m_checked;
         entry->trigger();
         (void)m_model.activateView(name);
@@ -266,9 +259,13 @@ private:
 
     void chooseReset(int argument)
     {
-        (argument % 2 != 0 ? m_reader.programStartEntry() : m_reader.factoryDefaultEntry())
-            ->trigger();
-        loadSpecial(argument % 2 != 0 ? m_programStart : m_factoryDefault);
+        if (argument % 2 != 0) {
+            m_reader.programStartEntry()->trigger();
+            (void)m_model.activateProgramStartView();
+        } else {
+            m_reader.factoryDefaultEntry()->trigger();
+            (void)m_model.activateFactoryDefaultView();
+        }
     }
 
     void enterName(int argument)
@@ -297,23 +294,15 @@ private:
         return entries.isEmpty() ? nullptr : entries[argument % entries.size()];
     }
 
-    QStringList modelNames()
-    {
-        QStringList names;
-        for (const ModelView& view : m_model.group().views)
-            names << view.name;
-        return names;
-    }
-
     void followActiveView()
     {
-        const QString& active = m_model.group().active;
+        const QString active = m_model.activeView();
         m_checked = active.isEmpty() ? QString() : active;
     }
 
     void check()
     {
-        const QStringList expected = m_model.takeSignals();
+        const QStringList expected = std::exchange(m_modelSignals, QStringList());
         requireSame(m_log.take().join("\n"_s), expected.join("\n"_s), "signals");
         const auto movesMark = [](const QString& line) {
             return line.startsWith("view"_s) || line.startsWith("group"_s);
@@ -322,15 +311,17 @@ private:
             followActiveView();
         const QString separator = "|"_s;
         requireSame(m_manager.groups().join(separator), "G|H"_s, "the groups");
-        requireSame(m_manager.activeGroup(), m_model.group().name, "the active group");
-        requireSame(m_manager.views().join(separator), modelNames().join(separator), "the views");
-        requireSame(quoted(m_manager.activeView()), quoted(m_model.group().active),
+        requireSame(m_manager.activeGroup(), m_model.activeGroup(), "the active group");
+        requireSame(m_manager.views().join(separator), m_model.views().join(separator),
+                    "the views");
+        requireSame(quoted(m_manager.activeView()), quoted(m_model.activeView()),
                     "the active view");
-        requireSame(m_reader.text(), MenuReader::expectedText(modelNames(), m_checked), "the menu");
+        requireSame(m_reader.text(), MenuReader::expectedText(m_model.views(), m_checked),
+                    "the menu");
         require(m_window.dockArea() == m_model.live.dock, "the dock widget's place");
         require(m_window.barArea() == m_model.live.bar, "the tool bar's place");
-        const bool programStart = !m_programStart.groups.empty();
-        const bool factoryDefault = !m_factoryDefault.groups.empty();
+        const bool programStart = m_model.programStartViewSet();
+        const bool factoryDefault = m_model.factoryDefaultViewSet();
         require(m_manager.programStartViewSet() == programStart, "whether there is a start");
         require(m_manager.factoryDefaultViewSet() == factoryDefault, "whether there is a default");
         require(m_reader.programStartEntry()->isEnabled() == programStart, "the start's entry");
@@ -345,15 +336,13 @@ private:
     Menu m_menu;
     MenuReader m_reader{m_menu};
     SignalLog m_log;
-    ManagerModel m_model;
+    ArrangementModel m_model;
+    QStringList m_modelSignals;
     /** The view whose entry has the check mark; null for none. */
     QString m_checked;
     std::vector<Document> m_documents;
     // Each takes as long as a hundred other operations, so most inputs should do with few.
     int m_validationsLeft;
-    /** Without groups while it is not set. */
-    ModelDocument m_programStart;
-    ModelDocument m_factoryDefault;
 };
 
 } // namespace

@@ -23,14 +23,9 @@ inline QVector<Group*> groupsOf(Manager& manager)
     return manager.*open(GroupsTag());
 }
 
-} // namespace Panorel::Tests
-
-namespace Panorel::Fuzz {
-
 /** The view's content, one line each. */
 inline QString describe(const View& view)
 {
-    using namespace Panorel::Tests;
     QString text = "  view "_s + quoted(view.name) + ", data "_s +
                    (view.userData.isValid() ? quoted(view.userData.toString()) : "invalid"_s) +
                    "\n"_s;
@@ -42,7 +37,6 @@ inline QString describe(const View& view)
 /** The saved views in their order, and which of them is active. */
 inline QString describeViews(const Group& group)
 {
-    using namespace Panorel::Tests;
     QString text = "group "_s + quoted(group.name) + ", active "_s +
                    (group.activeView ? quoted(group.activeView->name) : "none"_s) + "\n"_s;
     for (const auto& view : group.views)
@@ -54,9 +48,9 @@ inline QString describeViews(const Group& group)
 inline QString describe(Manager& manager)
 {
     QString text = QString(QStringLiteral("active ") + manager.activeGroup() + u'\n');
-    for (const Group* group : Tests::groupsOf(manager))
+    for (const Group* group : groupsOf(manager))
         text += describeViews(*group) + describe(*group->currentView);
     return text;
 }
 
-} // namespace Panorel::Fuzz
+} // namespace Panorel::Tests

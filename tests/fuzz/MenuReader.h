@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Fuzz.h"
+#include "support/MenuReading.h"
 #include "support/Text.h"
 
 #include <panorel/Menu.h>
@@ -12,11 +13,8 @@
 #include <QLineEdit>
 #include <QList>
 #include <QStringList>
-#include <QWidgetAction>
 
-namespace Panorel::Fuzz {
-
-using namespace Panorel::Tests;
+namespace Panorel::Tests {
 
 /** What a user sees of an extended menu, and can do with it but for the file dialogs. */
 class MenuReader
@@ -26,27 +24,16 @@ public:
         : m_menu(menu)
     {}
 
-    /** The entries in front of the first separator. */
-    QList<QAction*> viewEntries() const
-    {
-        QList<QAction*> entries = m_menu.actions();
-        for (int i = 0; i < entries.size(); ++i) {
-            if (entries[i]->isSeparator())
-                return entries.mid(0, i);
-        }
-        return entries;
-    }
-
+    QList<QAction*> viewEntries() const { return Tests::viewEntries(m_menu); }
     /** Without the line edit. */
-    QList<QAction*> saveEntries() const { return subMenu(0).mid(1); }
-    QList<QAction*> deleteEntries() const { return subMenu(1); }
+    QList<QAction*> saveEntries() const { return saveAsMenu(m_menu)->actions().mid(1); }
+    QList<QAction*> deleteEntries() const { return deleteMenu(m_menu)->actions(); }
     QAction* programStartEntry() const { return m_menu.actions().at(m_menu.actions().size() - 2); }
     QAction* factoryDefaultEntry() const { return m_menu.actions().constLast(); }
 
     void enterName(const QString& name) const
     {
-        auto* action = qobject_cast<QWidgetAction*>(subMenu(0).value(0));
-        auto* edit = action ? qobject_cast<QLineEdit*>(action->defaultWidget()) : nullptr;
+        QLineEdit* edit = nameEdit(m_menu);
         if (!edit)
             fail("the save menu begins with a line edit");
         edit->setText(name);
@@ -88,16 +75,7 @@ private:
     /** An action has no text at all where it was given an empty one. */
     static QString shown(const QString& text) { return "'"_s + text + "'"_s; }
 
-    QList<QAction*> subMenu(int index) const
-    {
-        for (const QAction* action : m_menu.actions()) {
-            if (action->menu() && index-- == 0)
-                return action->menu()->actions();
-        }
-        fail("the menu has two sub-menus");
-    }
-
     const Menu& m_menu;
 };
 
-} // namespace Panorel::Fuzz
+} // namespace Panorel::Tests

@@ -18,7 +18,6 @@
 #include <algorithm>
 
 using namespace Panorel;
-using namespace Panorel::Fuzz;
 using namespace Panorel::Tests;
 
 namespace {

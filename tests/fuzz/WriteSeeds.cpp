@@ -50,10 +50,12 @@ void writeStates(const std::vector<RecordedBlob>& blobs, const QString& folder)
 {
     Seeds codec(folder + "/CodecFuzzer"_s);
     Seeds merge(folder + "/MergeFuzzer"_s);
+    Seeds state(folder + "/StateFuzzer"_s);
     for (std::size_t i = 0; i < blobs.size(); ++i) {
         const QByteArray& first = blobs[i].bytes;
         const QByteArray& second = blobs[(i * 7 + 3) % blobs.size()].bytes;
         codec.add(first);
+        state.add(first);
         const char length[] = {static_cast<char>(first.size() >> 8),
                                static_cast<char>(first.size() & 0xFF)};
         merge.add(QByteArray(length, 2) + first + second);

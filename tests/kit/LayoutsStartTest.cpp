@@ -1,0 +1,318 @@
+// SPDX-License-Identifier: MIT
+#include "FourSidesWindow.h"
+#include "support/ShownArrangement.h"
+#include "support/Text.h"
+
+#include <panorel/Manager.h>
+#include <panorel/kit/Layouts.h>
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QWindow>
+
+#include <memory>
+
+using namespace Panorel;
+using namespace Panorel::Kit;
+using namespace Panorel::Tests;
+
+namespace {
+
+// Paints of a window, with what it showed.
+class PaintLog : public QObject
+{
+public:
+    explicit PaintLog(FourSidesWindow& window)
+        : m_window(window)
+    {
+        window.installEventFilter(this);
+    }
+
+    QVector<Qt::DockWidgetArea> areas;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint)
+            areas.append(m_window.dockWidgetArea(m_window.left));
+        return false;
+    }
+
+private:
+    FourSidesWindow& m_window;
+};
+
+} // namespace
+
+// Offscreen, and with a window manager under Xvfb.
+class LayoutsStartTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void anyOrderOfCalls_data();
+    void anyOrderOfCalls();
+    void sizesComeBack_data();
+    void sizesComeBack();
+    void aWindowThatGrowsAfterItHasAppeared();
+    void aWindowThatIsShownLate();
+    void aWindowThatIsNeverShown();
+    void aWindowThatStartsAsAnIcon();
+    void aWindowThatIsAddedLater();
+    void theFirstPictureIsTheLayout();
+    void whatIsRearrangedAtOnceStays();
+    void aPlaceOffTheScreens();
+
+private:
+    QString file() const { return m_folder->filePath("f.views"_s); }
+    void makeFile(void (QWidget::*show)() = &QWidget::show);
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    int m_rightWidth = 0;
+    QSize m_windowSize;
+};
+
+void LayoutsStartTest::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+}
+
+// Left and right are swapped, and the dock widget on the left is 234 pixels wide.
+void LayoutsStartTest::makeFile(void (QWidget::*show)())
+{
+    Manager manager({"G"_s}, /*mergeOnApply=*/true);
+    FourSidesWindow window;
+    Layouts layouts(manager);
+    layouts.addWindow(window, "w"_s);
+    window.resize(850, 650);
+    (window.*show)();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    layouts.start(file());
+    if (show != &QWidget::show)
+        QTRY_VERIFY(window.width() != 850); // The desktop decides when.
+    QCoreApplication::processEvents();
+    window.rearrangeDocks();
+    window.resizeDocks({window.right}, {234}, Qt::Horizontal);
+    QCoreApplication::processEvents();
+    m_rightWidth = window.right->width();
+    m_windowSize = window.size();
+    QCOMPARE(m_rightWidth, 234);
+}
+
+void LayoutsStartTest::anyOrderOfCalls_data()
+{
+    QTest::addColumn<QString>("order");
+    // Add, show, start, and the event loop.
+    for (const char* order : {"a+s", "as+", "+as", "sa+", "s+a", "+sa", "a+es", "+eas", "sea+",
+                              "as.+", "sea+e", "+esea"})
+        QTest::newRow(order) << QString::fromLatin1(order);
+}
+
+void LayoutsStartTest::anyOrderOfCalls()
+{
+    QFETCH(QString, order);
+    makeFile();
+    Manager manager({"G"_s}, /*mergeOnApply=*/true);
+    FourSidesWindow window;
+    Layouts layouts(manager);
+    for (const QChar& call : order) {
+        if (call == QLatin1Char('a'))
+            layouts.addWindow(window, "w"_s);
+        else if (call == QLatin1Char('+'))
+            window.show();
+        else if (call == QLatin1Char('s'))
+            layouts.start(file());
+        else
+            QCoreApplication::processEvents();
+    }
+    QTRY_COMPARE(window.size(), m_windowSize);
+    QTRY_COMPARE(window.right->width(), m_rightWidth);
+    QCOMPARE(window.dockWidgetArea(window.right), Qt::LeftDockWidgetArea);
+}
+
+void LayoutsStartTest::sizesComeBack_data()
+{
+    QTest::addColumn<int>("state");
+    QTest::newRow("normal") << int(Qt::WindowNoState);
+    QTest::newRow("maximised") << int(Qt::WindowMaximized);
+    QTest::newRow("full screen") << int(Qt::WindowFullScreen);
+}
+
+void LayoutsStartTest::sizesComeBack()
+{
+    QFETCH(int, state);
+    auto show = &QWidget::show;
+    if (state == Qt::WindowMaximized)
+        show = &QWidget::showMaximized;
+    else if (state == Qt::WindowFullScreen)
+        show = &QWidget::showFullScreen;
+    makeFile(show);
+    Manager manager({"G"_s}, /*mergeOnApply=*/true);
+    FourSidesWindow window;
+    Layouts layouts(manager);
+    layouts.addWindow(window, "w"_s);
+    layouts.start(file());
+    window.show();
+    QTRY_COMPARE(window.size(), m_windowSize);
+    QTRY_COMPARE(window.right->width(), m_rightWidth);
+    QCOMPARE(int(window.windowState() & ~Qt::WindowActive), state);
+}
+
+// Such as one that the desktop maximises late.
+void LayoutsStartTest::aWindowThatGrowsAfterItHasAppeared()
+{
+    {
+        Manager manager({"G"_s}, /*mergeOnApply=*/true);
+        FourSidesWindow window;
+        Layouts layouts(manager);
+        layouts.addWindow(window, "w"_s);
+        window.resize(790, 600);
+        window.show();
+        layouts.start(file());
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        window.resizeDocks({window.right}, {400}, Qt::Horizontal);
+        QTRY_COMPARE(window.right->width(), 400);
+    }
+    Manager manager({"G"_s}, /*mergeOnApply=*/true);
+    FourSidesWindow window;
+    Layouts layouts(manager);
+    layouts.addWindow(window, "w"_s);
+    layouts.start(file());
+    window.resize(420, 400);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCoreApplication::processEvents();
+    window.resize(790, 600);
+    QTRY_COMPARE(window.right->width(), 400);
+}
+
+void LayoutsStartTest::aWindowThatIsShownLate()
+{
+    makeFile();
+    Manager manager({"G"_s}, /*mergeOnApply=*/true);
+    FourSidesWindow window;
+    Layouts layouts(manager);
+    layouts.addWindow(window, "w"_s);
+    layouts.start(file());
+    for (int i = 0; i < 10; ++i)
+        QCoreApplication::processEvents();
+    QVERIFY(layouts.save());
+    window.show();
+    QTRY_COMPARE(window.right->width(), m_rightWidth);
+}
+
+void LayoutsStartTest::aWindowThatIsNeverShown()
+{
+    makeFile();
+    for (int day = 1; day <= 5; ++day) {
+        Manager manager({"G"_s}, /*mergeOnApply=*/true);
+        FourSidesWindow window;
+        FourSidesWindow shown;
+        Layouts layouts(manager);
+        layouts.addWindow(window, "w"_s);
+        layouts.addWindow(shown, "shown"_s);
+        shown.show();
+        layouts.start(file());
+        QCoreApplication::processEvents();
+        if (day == 1)
+            shown.rearrangeDocks();
+        QCOMPARE(shown.dockWidgetArea(shown.right), Qt::LeftDockWidgetArea);
+    }
+    Manager manager({"G"_s}, /*mergeOnApply=*/true);
+    FourSidesWindow window;
+    Layouts layouts(manager);
+    layouts.addWindow(window, "w"_s);
+    layouts.start(file());
+    window.show();
+    QTRY_COMPARE(window.right->width(), m_rightWidth);
+}
+
+void LayoutsStartTest::aWindowThatStartsAsAnIcon()
+{
+    makeFile();
+    Manager manager({"G"_s}, /*mergeOnApply=*/true);
+    FourSidesWindow window;
+    Layouts layouts(manager);
+    layouts.addWindow(window, "w"_s);
+    window.showMinimized();
+    layouts.start(file());
+    QCoreApplication::processEvents();
+    QVERIFY(layouts.save());
+    window.showNormal();
+    QTRY_COMPARE(window.right->width(), m_rightWidth);
+}
+
+void LayoutsStartTest::aWindowThatIsAddedLater()
+{
+    makeFile();
+    Manager manager({"G"_s}, /*mergeOnApply=*/true);
+    FourSidesWindow other;
+    Layouts layouts(manager);
+    layouts.addWindow(other, "other"_s);
+    other.show();
+    layouts.start(file());
+    QVERIFY(layouts.save());
+    const QStringList shown = shownArrangement(other);
+    FourSidesWindow window;
+    layouts.addWindow(window, "w"_s);
+    window.show();
+    QTRY_COMPARE(window.right->width(), m_rightWidth);
+    QCOMPARE(shownArrangement(other), shown);
+}
+
+void LayoutsStartTest::theFirstPictureIsTheLayout()
+{
+    makeFile();
+    Manager manager({"G"_s}, /*mergeOnApply=*/true);
+    FourSidesWindow window;
+    const PaintLog log(window);
+    Layouts layouts(manager);
+    layouts.addWindow(window, "w"_s);
+    window.show();
+    layouts.start(file());
+    QTRY_VERIFY(!log.areas.isEmpty());
+    QTRY_COMPARE(window.right->width(), m_rightWidth);
+    QCOMPARE(log.areas.count(Qt::LeftDockWidgetArea), 0);
+}
+
+void LayoutsStartTest::whatIsRearrangedAtOnceStays()
+{
+    makeFile();
+    Manager manager({"G"_s}, /*mergeOnApply=*/true);
+    FourSidesWindow window;
+    Layouts layouts(manager);
+    layouts.addWindow(window, "w"_s);
+    layouts.start(file());
+    window.addDockWidget(Qt::BottomDockWidgetArea, window.left);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCoreApplication::processEvents();
+    QCOMPARE(window.dockWidgetArea(window.left), Qt::BottomDockWidgetArea);
+}
+
+void LayoutsStartTest::aPlaceOffTheScreens()
+{
+    {
+        Manager manager({"G"_s}, /*mergeOnApply=*/true);
+        FourSidesWindow window;
+        Layouts layouts(manager);
+        layouts.addWindow(window, "w"_s);
+        layouts.start(file());
+        window.setGeometry(20000, 20000, 800, 600);
+        QVERIFY(layouts.save());
+    }
+    Manager manager({"G"_s}, /*mergeOnApply=*/true);
+    FourSidesWindow window;
+    Layouts layouts(manager);
+    layouts.addWindow(window, "w"_s);
+    layouts.start(file());
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(QGuiApplication::primaryScreen()->geometry().intersects(window.geometry()));
+}
+
+QTEST_MAIN(LayoutsStartTest)
+#include "LayoutsStartTest.moc"

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "Catalogue.h"
+
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <algorithm>
+
+using namespace Panorel::Tests;
+
+namespace {
+
+QString kitCatalogueFile(const QString& language)
+{
+    return QStringLiteral(CATALOGUE_DIR "/panorelkit_%1.ts").arg(language);
+}
+
+// "%1", command line options and the like, which are the same in every language.
+QStringList fixedParts(const QString& text)
+{
+    static const QRegularExpression fixed(
+        QStringLiteral("%[0-9]|--[a-z-]+|ViewData|PNG|SVG|\"panorel"));
+    QStringList parts;
+    auto matches = fixed.globalMatch(text);
+    while (matches.hasNext())
+        parts.append(matches.next().captured());
+    std::sort(parts.begin(), parts.end());
+    return parts;
+}
+
+} // namespace
+
+/** The catalogues of Panorel Kit and the command: as many languages as the main library's, each
+    complete. */
+class KitCatalogueTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void catalogue_data();
+    void catalogue();
+
+private:
+    QTemporaryDir m_folder;
+    QStringList m_sources;
+};
+
+void KitCatalogueTest::initTestCase()
+{
+    const QString file = m_folder.filePath(QStringLiteral("source.ts"));
+    QProcess lupdate;
+    lupdate.start(QStringLiteral(LUPDATE),
+                  {QStringLiteral("-I"), QStringLiteral(INCLUDE_DIR), QStringLiteral(KIT_DIR),
+                   QStringLiteral(TOOL_DIR), QStringLiteral("-ts"), file});
+    QVERIFY2(lupdate.waitForFinished(), qPrintable(lupdate.errorString()));
+    const Catalogue source = Catalogue::read(file);
+    for (const Message& message : source.messages())
+        m_sources.append(message.key());
+    m_sources.sort();
+    QVERIFY(m_sources.size() > 100);
+}
+
+void KitCatalogueTest::catalogue_data()
+{
+    QTest::addColumn<QString>("language");
+    const QStringList languages = catalogueLanguages();
+    QCOMPARE(languages.size(), 27);
+    for (const QString& language : languages)
+        QTest::newRow(qPrintable(language)) << language;
+}
+
+void KitCatalogueTest::catalogue()
+{
+    QFETCH(QString, language);
+    const Catalogue catalogue = Catalogue::read(kitCatalogueFile(language));
+    QStringList keys;
+    for (const Message& message : catalogue.messages()) {
+        keys.append(message.key());
+        const QByteArray where = message.source.toUtf8();
+        QVERIFY2(message.state.isEmpty(), where.constData());
+        QVERIFY2(!message.translation.trimmed().isEmpty(), where.constData());
+        QVERIFY2(fixedParts(message.translation) == fixedParts(message.source), where.constData());
+        const bool hasMnemonic = message.source.startsWith(QLatin1Char('&'));
+        QCOMPARE(message.translation.count(QLatin1Char('&')), hasMnemonic ? 1 : 0);
+    }
+    keys.sort();
+    QCOMPARE(keys, m_sources);
+}
+
+QTEST_GUILESS_MAIN(KitCatalogueTest)
+#include "KitCatalogueTest.moc"
