@@ -31,6 +31,9 @@ function(panorel_compile_settings target)
         target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
             -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast)
     endif()
+    if(PANOREL_WARNINGS_AS_ERRORS)
+        target_compile_options(${target} PRIVATE $<IF:$<BOOL:${MSVC}>,/WX,-Werror>)
+    endif()
     if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
         # Qt's own macros are called so, QSKIP() for one.
         target_compile_options(${target} PRIVATE -Wno-gnu-zero-variadic-macro-arguments)

@@ -17,7 +17,7 @@ install(FILES
     DESTINATION "${PANOREL_EXAMPLES_DIR}/src/ui"
     COMPONENT examples EXCLUDE_FROM_ALL)
 
-panorel_install_rpath(workbench "$ORIGIN/../..")
+panorel_install_rpath(workbench "/../..")
 install(TARGETS workbench
     RUNTIME DESTINATION "${CMAKE_INSTALL_LIBDIR}/panorel/examples"
     COMPONENT examples EXCLUDE_FROM_ALL)

@@ -3,12 +3,7 @@
 
 #include <TumoAppStartUpExport.h>
 
-#include <QHash>
-#include <QMutex>
 #include <QString>
-#include <QStringList>
-
-class QTranslator;
 
 /**
  * The translation service of the process: it installs the catalogues of the modules that register.
@@ -24,45 +19,31 @@ class QTranslator;
  * Register() and Unregister() may be called from any thread and while libraries are loaded and
  * unloaded; catalogues are installed and removed on the application's thread. Without an
  * application object they only take note. Nothing is reported.
+ *
+ * An application, or another library, may have a class of this name, and the loader binds each
+ * operation to the first definition that it finds. So the class has no data, and its operations do
+ * not mind which object they are called on; calls that belong to the caller's own class go there.
  */
-class TUMOAPPSTARTUP_EXPORT TranslationCenter
+class TranslationCenter
 {
 public:
     TranslationCenter(const TranslationCenter&) = delete;
     TranslationCenter& operator=(const TranslationCenter&) = delete;
 
-    /** The one service of the process. It is never destroyed. */
-    static TranslationCenter& Instance();
+    /** Returns the one service of the process. It is never destroyed. */
+    TUMOAPPSTARTUP_EXPORT static TranslationCenter& Instance();
 
     /**
-     * The catalogue of module @p name is wanted. Registrations of one name are counted. A name that
+     * Asks for the catalogue of module @p name. Registrations of one name are counted. A name that
      * could not be a part of a file's name, such as one with a slash, has no catalogue.
      */
-    void Register(const QString& name);
+    TUMOAPPSTARTUP_EXPORT void Register(const QString& name);
     /** Undoes one Register(); the catalogue is removed with the last one. */
-    void Unregister(const QString& name);
+    TUMOAPPSTARTUP_EXPORT void Unregister(const QString& name);
 
 private:
-    TranslationCenter();
-    ~TranslationCenter();
+    TranslationCenter() = default;
+    ~TranslationCenter() = default;
 
-    static void onApplicationCreated();
-    void updateOnApplicationThread();
-    QStringList registeredNames();
-    void update();
-
-    /**
-     * Guards the names, and nothing is called while it is held: a thread that loads a library waits
-     * for it inside the loader, and looking for catalogues needs the loader too.
-     */
-    QMutex m_mutex;
-    /** Registered names, one entry for each registration. */
-    QStringList m_names;
-    /**
-     * What is installed, by name; null where no catalogue was found. The translators belong to the
-     * application object, and only its thread uses this.
-     */
-    QHash<QString, QTranslator*> m_translators;
-
-    static const bool s_followsApplication;
+    static TranslationCenter s_instance;
 };

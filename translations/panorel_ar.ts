@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>Import &amp; Merge ...</source>
-        <translation>استيراد &amp; دمج ...</translation>
+        <translation>استيراد ودمج ...</translation>
     </message>
     <message>
         <source>Reset Layout to Program Start</source>
-        <translation>إعادة تعيين التخطيط إلى حالته عند بدء البرنامج</translation>
+        <translation>استعادة تخطيط بدء التشغيل</translation>
     </message>
     <message>
         <source>Reset Layout to Factory Default</source>
-        <translation>إعادة تعيين التخطيط إلى إعدادات المصنع</translation>
+        <translation>استعادة التخطيط الافتراضي</translation>
     </message>
     <message>
         <source>Save Layouts</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>View File (*.views);;All Files (*.*)</source>
-        <translation>ملف طرق العرض (*.views);;كل الملفات (*.*)</translation>
+        <translation>ملف تخطيطات (*.views);;كل الملفات (*.*)</translation>
     </message>
     <message>
         <source>Load Layouts</source>

@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>Import &amp; Merge ...</source>
-        <translation>Importa &amp; fusiona ...</translation>
+        <translation>Importa i fusiona ...</translation>
     </message>
     <message>
         <source>Reset Layout to Program Start</source>
-        <translation>Restableix la disposició de l’inici del programa</translation>
+        <translation>Restableix la disposició de l’inici</translation>
     </message>
     <message>
         <source>Reset Layout to Factory Default</source>
-        <translation>Restableix la disposició de fàbrica</translation>
+        <translation>Restableix la disposició per defecte</translation>
     </message>
     <message>
         <source>Save Layouts</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>View File (*.views);;All Files (*.*)</source>
-        <translation>Fitxer de vistes (*.views);;Tots els fitxers (*.*)</translation>
+        <translation>Fitxer de disposicions (*.views);;Tots els fitxers (*.*)</translation>
     </message>
     <message>
         <source>Load Layouts</source>

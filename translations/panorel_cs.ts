@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>Import &amp; Merge ...</source>
-        <translation>Importovat &amp; sloučit ...</translation>
+        <translation>Importovat a sloučit ...</translation>
     </message>
     <message>
         <source>Reset Layout to Program Start</source>
-        <translation>Obnovit rozložení do stavu při spuštění programu</translation>
+        <translation>Obnovit rozložení ze spuštění programu</translation>
     </message>
     <message>
         <source>Reset Layout to Factory Default</source>
-        <translation>Obnovit tovární rozložení</translation>
+        <translation>Obnovit výchozí rozložení</translation>
     </message>
     <message>
         <source>Save Layouts</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>View File (*.views);;All Files (*.*)</source>
-        <translation>Soubor pohledů (*.views);;Všechny soubory (*.*)</translation>
+        <translation>Soubor rozložení (*.views);;Všechny soubory (*.*)</translation>
     </message>
     <message>
         <source>Load Layouts</source>

@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>Import &amp; Merge ...</source>
-        <translation>Importér &amp; flet ...</translation>
+        <translation>Importér og flet ...</translation>
     </message>
     <message>
         <source>Reset Layout to Program Start</source>
-        <translation>Nulstil layoutet til tilstanden ved programstart</translation>
+        <translation>Gendan layoutet fra programstart</translation>
     </message>
     <message>
         <source>Reset Layout to Factory Default</source>
-        <translation>Nulstil layoutet til fabriksindstillingen</translation>
+        <translation>Gendan standardlayoutet</translation>
     </message>
     <message>
         <source>Save Layouts</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>View File (*.views);;All Files (*.*)</source>
-        <translation>Visningsfil (*.views);;Alle filer (*.*)</translation>
+        <translation>Layoutfil (*.views);;Alle filer (*.*)</translation>
     </message>
     <message>
         <source>Load Layouts</source>

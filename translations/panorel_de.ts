@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>Import &amp; Merge ...</source>
-        <translation>Importieren &amp; zusammenführen ...</translation>
+        <translation>Importieren und zusammenführen ...</translation>
     </message>
     <message>
         <source>Reset Layout to Program Start</source>
-        <translation>Fensterlayout auf den Stand beim Programmstart zurücksetzen</translation>
+        <translation>Fensterlayouts auf Stand beim Programmstart zurücksetzen</translation>
     </message>
     <message>
         <source>Reset Layout to Factory Default</source>
-        <translation>Fensterlayout auf die Werkseinstellung zurücksetzen</translation>
+        <translation>Fensterlayouts auf Werkseinstellung zurücksetzen</translation>
     </message>
     <message>
         <source>Save Layouts</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>View File (*.views);;All Files (*.*)</source>
-        <translation>Ansichtsdatei (*.views);;Alle Dateien (*.*)</translation>
+        <translation>Fensterlayout-Datei (*.views);;Alle Dateien (*.*)</translation>
     </message>
     <message>
         <source>Load Layouts</source>

@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>Import &amp; Merge ...</source>
-        <translation>Εισαγωγή &amp; συγχώνευση ...</translation>
+        <translation>Εισαγωγή και συγχώνευση ...</translation>
     </message>
     <message>
         <source>Reset Layout to Program Start</source>
-        <translation>Επαναφορά διάταξης στην κατάσταση εκκίνησης του προγράμματος</translation>
+        <translation>Επαναφορά διάταξης εκκίνησης</translation>
     </message>
     <message>
         <source>Reset Layout to Factory Default</source>
-        <translation>Επαναφορά διάταξης στις εργοστασιακές ρυθμίσεις</translation>
+        <translation>Επαναφορά προεπιλεγμένης διάταξης</translation>
     </message>
     <message>
         <source>Save Layouts</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>View File (*.views);;All Files (*.*)</source>
-        <translation>Αρχείο προβολών (*.views);;Όλα τα αρχεία (*.*)</translation>
+        <translation>Αρχείο διατάξεων (*.views);;Όλα τα αρχεία (*.*)</translation>
     </message>
     <message>
         <source>Load Layouts</source>

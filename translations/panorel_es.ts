@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>Import &amp; Merge ...</source>
-        <translation>Importar &amp; combinar ...</translation>
+        <translation>Importar y combinar ...</translation>
     </message>
     <message>
         <source>Reset Layout to Program Start</source>
-        <translation>Restablecer la disposición del inicio del programa</translation>
+        <translation>Restablecer la disposición del inicio</translation>
     </message>
     <message>
         <source>Reset Layout to Factory Default</source>
-        <translation>Restablecer la disposición de fábrica</translation>
+        <translation>Restablecer la disposición predeterminada</translation>
     </message>
     <message>
         <source>Save Layouts</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>View File (*.views);;All Files (*.*)</source>
-        <translation>Archivo de vistas (*.views);;Todos los archivos (*.*)</translation>
+        <translation>Archivo de disposiciones (*.views);;Todos los archivos (*.*)</translation>
     </message>
     <message>
         <source>Load Layouts</source>

@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>Import &amp; Merge ...</source>
-        <translation>Tuo &amp; yhdistä ...</translation>
+        <translation>Tuo ja yhdistä ...</translation>
     </message>
     <message>
         <source>Reset Layout to Program Start</source>
-        <translation>Palauta ohjelman käynnistyksen aikainen asettelu</translation>
+        <translation>Palauta käynnistyksen aikainen asettelu</translation>
     </message>
     <message>
         <source>Reset Layout to Factory Default</source>
-        <translation>Palauta tehdasasetusten mukainen asettelu</translation>
+        <translation>Palauta oletusasettelu</translation>
     </message>
     <message>
         <source>Save Layouts</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>View File (*.views);;All Files (*.*)</source>
-        <translation>Näkymätiedosto (*.views);;Kaikki tiedostot (*.*)</translation>
+        <translation>Asettelutiedosto (*.views);;Kaikki tiedostot (*.*)</translation>
     </message>
     <message>
         <source>Load Layouts</source>

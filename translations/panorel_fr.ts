@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>Import &amp; Merge ...</source>
-        <translation>Importer &amp; fusionner ...</translation>
+        <translation>Importer et fusionner ...</translation>
     </message>
     <message>
         <source>Reset Layout to Program Start</source>
-        <translation>Rétablir la disposition du démarrage du programme</translation>
+        <translation>Rétablir la disposition du lancement</translation>
     </message>
     <message>
         <source>Reset Layout to Factory Default</source>
-        <translation>Rétablir la disposition d’usine</translation>
+        <translation>Rétablir la disposition par défaut</translation>
     </message>
     <message>
         <source>Save Layouts</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>View File (*.views);;All Files (*.*)</source>
-        <translation>Fichier de vues (*.views);;Tous les fichiers (*.*)</translation>
+        <translation>Fichier de dispositions (*.views);;Tous les fichiers (*.*)</translation>
     </message>
     <message>
         <source>Load Layouts</source>
@@ -60,7 +60,7 @@
     </message>
     <message>
         <source>Name must not be empty!</source>
-        <translation>Le nom ne doit pas être vide&#xa0;!</translation>
+        <translation>Le nom ne peut pas être vide !</translation>
     </message>
     <message>
         <source>Name already in use!</source>

@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>Import &amp; Merge ...</source>
-        <translation>ייבוא &amp; מיזוג ...</translation>
+        <translation>ייבוא ומיזוג ...</translation>
     </message>
     <message>
         <source>Reset Layout to Program Start</source>
-        <translation>איפוס הפריסה למצבה בעת הפעלת התוכנית</translation>
+        <translation>שחזור הפריסה מהפעלת התוכנית</translation>
     </message>
     <message>
         <source>Reset Layout to Factory Default</source>
-        <translation>איפוס הפריסה לברירת המחדל של היצרן</translation>
+        <translation>שחזור פריסת ברירת המחדל</translation>
     </message>
     <message>
         <source>Save Layouts</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>View File (*.views);;All Files (*.*)</source>
-        <translation>קובץ תצוגות (*.views);;כל הקבצים (*.*)</translation>
+        <translation>קובץ פריסות (*.views);;כל הקבצים (*.*)</translation>
     </message>
     <message>
         <source>Load Layouts</source>

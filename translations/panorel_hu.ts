@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>Import &amp; Merge ...</source>
-        <translation>Importálás &amp; egyesítés ...</translation>
+        <translation>Importálás és egyesítés ...</translation>
     </message>
     <message>
         <source>Reset Layout to Program Start</source>
-        <translation>Elrendezés visszaállítása a program indításakori állapotra</translation>
+        <translation>Indításkori elrendezés visszaállítása</translation>
     </message>
     <message>
         <source>Reset Layout to Factory Default</source>
-        <translation>Elrendezés visszaállítása a gyári alapértelmezésre</translation>
+        <translation>Alapértelmezett elrendezés visszaállítása</translation>
     </message>
     <message>
         <source>Save Layouts</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>View File (*.views);;All Files (*.*)</source>
-        <translation>Nézetfájl (*.views);;Minden fájl (*.*)</translation>
+        <translation>Elrendezésfájl (*.views);;Minden fájl (*.*)</translation>
     </message>
     <message>
         <source>Load Layouts</source>

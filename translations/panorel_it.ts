@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>Import &amp; Merge ...</source>
-        <translation>Importa &amp; unisci ...</translation>
+        <translation>Importa e unisci ...</translation>
     </message>
     <message>
         <source>Reset Layout to Program Start</source>
-        <translation>Ripristina il layout dell’avvio del programma</translation>
+        <translation>Ripristina il layout di avvio</translation>
     </message>
     <message>
         <source>Reset Layout to Factory Default</source>
-        <translation>Ripristina il layout di fabbrica</translation>
+        <translation>Ripristina il layout predefinito</translation>
     </message>
     <message>
         <source>Save Layouts</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>View File (*.views);;All Files (*.*)</source>
-        <translation>File di viste (*.views);;Tutti i file (*.*)</translation>
+        <translation>File di layout (*.views);;Tutti i file (*.*)</translation>
     </message>
     <message>
         <source>Load Layouts</source>

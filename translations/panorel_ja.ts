@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>Import &amp; Merge ...</source>
-        <translation>インポート &amp; マージ ...</translation>
+        <translation>インポートしてマージ ...</translation>
     </message>
     <message>
         <source>Reset Layout to Program Start</source>
-        <translation>レイアウトをプログラム起動時の状態にリセット</translation>
+        <translation>起動時の状態に戻す</translation>
     </message>
     <message>
         <source>Reset Layout to Factory Default</source>
-        <translation>レイアウトを出荷時の設定にリセット</translation>
+        <translation>初期設定に戻す</translation>
     </message>
     <message>
         <source>Save Layouts</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>View File (*.views);;All Files (*.*)</source>
-        <translation>ビューファイル (*.views);;すべてのファイル (*.*)</translation>
+        <translation>レイアウトファイル (*.views);;すべてのファイル (*.*)</translation>
     </message>
     <message>
         <source>Load Layouts</source>

@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>Import &amp; Merge ...</source>
-        <translation>가져오기 &amp; 병합 ...</translation>
+        <translation>가져오기 및 병합 ...</translation>
     </message>
     <message>
         <source>Reset Layout to Program Start</source>
-        <translation>레이아웃을 프로그램 시작 시 상태로 초기화</translation>
+        <translation>프로그램 시작 시 레이아웃으로 되돌리기</translation>
     </message>
     <message>
         <source>Reset Layout to Factory Default</source>
-        <translation>레이아웃을 출고 시 기본값으로 초기화</translation>
+        <translation>기본 레이아웃으로 되돌리기</translation>
     </message>
     <message>
         <source>Save Layouts</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>View File (*.views);;All Files (*.*)</source>
-        <translation>뷰 파일 (*.views);;모든 파일 (*.*)</translation>
+        <translation>레이아웃 파일 (*.views);;모든 파일 (*.*)</translation>
     </message>
     <message>
         <source>Load Layouts</source>

@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>Import &amp; Merge ...</source>
-        <translation>Importer &amp; slå sammen ...</translation>
+        <translation>Importer og slå sammen ...</translation>
     </message>
     <message>
         <source>Reset Layout to Program Start</source>
-        <translation>Tilbakestill oppsettet til tilstanden ved programstart</translation>
+        <translation>Gjenopprett oppsettet fra programstart</translation>
     </message>
     <message>
         <source>Reset Layout to Factory Default</source>
-        <translation>Tilbakestill oppsettet til fabrikkinnstillingen</translation>
+        <translation>Gjenopprett standardoppsettet</translation>
     </message>
     <message>
         <source>Save Layouts</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>View File (*.views);;All Files (*.*)</source>
-        <translation>Visningsfil (*.views);;Alle filer (*.*)</translation>
+        <translation>Oppsettsfil (*.views);;Alle filer (*.*)</translation>
     </message>
     <message>
         <source>Load Layouts</source>

@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>Import &amp; Merge ...</source>
-        <translation>Importeren &amp; samenvoegen ...</translation>
+        <translation>Importeren en samenvoegen ...</translation>
     </message>
     <message>
         <source>Reset Layout to Program Start</source>
-        <translation>Indeling terugzetten naar de stand bij programmastart</translation>
+        <translation>Indeling bij programmastart herstellen</translation>
     </message>
     <message>
         <source>Reset Layout to Factory Default</source>
-        <translation>Indeling terugzetten naar de fabrieksinstelling</translation>
+        <translation>Standaardindeling herstellen</translation>
     </message>
     <message>
         <source>Save Layouts</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>View File (*.views);;All Files (*.*)</source>
-        <translation>Weergavebestand (*.views);;Alle bestanden (*.*)</translation>
+        <translation>Indelingsbestand (*.views);;Alle bestanden (*.*)</translation>
     </message>
     <message>
         <source>Load Layouts</source>

@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Import &amp; Merge ...</source>
-        <translation>Importuj &amp; scal ...</translation>
+        <translation>Importuj i scal ...</translation>
     </message>
     <message>
         <source>Reset Layout to Program Start</source>
@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>Reset Layout to Factory Default</source>
-        <translation>Przywróć układ fabryczny</translation>
+        <translation>Przywróć układ domyślny</translation>
     </message>
     <message>
         <source>Save Layouts</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>View File (*.views);;All Files (*.*)</source>
-        <translation>Plik widoków (*.views);;Wszystkie pliki (*.*)</translation>
+        <translation>Plik układów (*.views);;Wszystkie pliki (*.*)</translation>
     </message>
     <message>
         <source>Load Layouts</source>

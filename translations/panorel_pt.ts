@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>Import &amp; Merge ...</source>
-        <translation>Importar &amp; combinar ...</translation>
+        <translation>Importar e combinar ...</translation>
     </message>
     <message>
         <source>Reset Layout to Program Start</source>
-        <translation>Repor a disposição do arranque do programa</translation>
+        <translation>Repor a disposição do arranque</translation>
     </message>
     <message>
         <source>Reset Layout to Factory Default</source>
-        <translation>Repor a disposição de fábrica</translation>
+        <translation>Repor a disposição predefinida</translation>
     </message>
     <message>
         <source>Save Layouts</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>View File (*.views);;All Files (*.*)</source>
-        <translation>Ficheiro de vistas (*.views);;Todos os ficheiros (*.*)</translation>
+        <translation>Ficheiro de disposições (*.views);;Todos os ficheiros (*.*)</translation>
     </message>
     <message>
         <source>Load Layouts</source>

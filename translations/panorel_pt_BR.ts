@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>Import &amp; Merge ...</source>
-        <translation>Importar &amp; mesclar ...</translation>
+        <translation>Importar e mesclar ...</translation>
     </message>
     <message>
         <source>Reset Layout to Program Start</source>
-        <translation>Restaurar o layout da inicialização do programa</translation>
+        <translation>Restaurar o layout da inicialização</translation>
     </message>
     <message>
         <source>Reset Layout to Factory Default</source>
-        <translation>Restaurar o layout padrão de fábrica</translation>
+        <translation>Restaurar o layout padrão</translation>
     </message>
     <message>
         <source>Save Layouts</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>View File (*.views);;All Files (*.*)</source>
-        <translation>Arquivo de visualizações (*.views);;Todos os arquivos (*.*)</translation>
+        <translation>Arquivo de layouts (*.views);;Todos os arquivos (*.*)</translation>
     </message>
     <message>
         <source>Load Layouts</source>

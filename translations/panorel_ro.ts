@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>Import &amp; Merge ...</source>
-        <translation>Importă &amp; îmbină ...</translation>
+        <translation>Importă și îmbină ...</translation>
     </message>
     <message>
         <source>Reset Layout to Program Start</source>
-        <translation>Restabilește aranjamentul de la pornirea programului</translation>
+        <translation>Restabilește aranjamentul de la pornire</translation>
     </message>
     <message>
         <source>Reset Layout to Factory Default</source>
-        <translation>Restabilește aranjamentul implicit din fabrică</translation>
+        <translation>Restabilește aranjamentul implicit</translation>
     </message>
     <message>
         <source>Save Layouts</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>View File (*.views);;All Files (*.*)</source>
-        <translation>Fișier de vizualizări (*.views);;Toate fișierele (*.*)</translation>
+        <translation>Fișier de aranjamente (*.views);;Toate fișierele (*.*)</translation>
     </message>
     <message>
         <source>Load Layouts</source>

@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>Import &amp; Merge ...</source>
-        <translation>Импорт &amp; объединение ...</translation>
+        <translation>Импорт и объединение ...</translation>
     </message>
     <message>
         <source>Reset Layout to Program Start</source>
-        <translation>Восстановить компоновку на момент запуска программы</translation>
+        <translation>Восстановить компоновку при запуске</translation>
     </message>
     <message>
         <source>Reset Layout to Factory Default</source>
-        <translation>Восстановить заводскую компоновку</translation>
+        <translation>Восстановить компоновку по умолчанию</translation>
     </message>
     <message>
         <source>Save Layouts</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>View File (*.views);;All Files (*.*)</source>
-        <translation>Файл представлений (*.views);;Все файлы (*.*)</translation>
+        <translation>Файл компоновок (*.views);;Все файлы (*.*)</translation>
     </message>
     <message>
         <source>Load Layouts</source>

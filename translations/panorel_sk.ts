@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>Import &amp; Merge ...</source>
-        <translation>Importovať &amp; zlúčiť ...</translation>
+        <translation>Importovať a zlúčiť ...</translation>
     </message>
     <message>
         <source>Reset Layout to Program Start</source>
-        <translation>Obnoviť rozloženie do stavu pri spustení programu</translation>
+        <translation>Obnoviť rozloženie zo spustenia programu</translation>
     </message>
     <message>
         <source>Reset Layout to Factory Default</source>
-        <translation>Obnoviť továrenské rozloženie</translation>
+        <translation>Obnoviť predvolené rozloženie</translation>
     </message>
     <message>
         <source>Save Layouts</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>View File (*.views);;All Files (*.*)</source>
-        <translation>Súbor pohľadov (*.views);;Všetky súbory (*.*)</translation>
+        <translation>Súbor rozložení (*.views);;Všetky súbory (*.*)</translation>
     </message>
     <message>
         <source>Load Layouts</source>

@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>Import &amp; Merge ...</source>
-        <translation>Importera &amp; slå samman ...</translation>
+        <translation>Importera och slå samman ...</translation>
     </message>
     <message>
         <source>Reset Layout to Program Start</source>
-        <translation>Återställ layouten till läget vid programstart</translation>
+        <translation>Återställ layouten från programstart</translation>
     </message>
     <message>
         <source>Reset Layout to Factory Default</source>
-        <translation>Återställ layouten till fabriksinställningen</translation>
+        <translation>Återställ standardlayouten</translation>
     </message>
     <message>
         <source>Save Layouts</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>View File (*.views);;All Files (*.*)</source>
-        <translation>Vyfil (*.views);;Alla filer (*.*)</translation>
+        <translation>Layoutfil (*.views);;Alla filer (*.*)</translation>
     </message>
     <message>
         <source>Load Layouts</source>

@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>Import &amp; Merge ...</source>
-        <translation>İçe Aktar &amp; Birleştir ...</translation>
+        <translation>İçe Aktar ve Birleştir ...</translation>
     </message>
     <message>
         <source>Reset Layout to Program Start</source>
-        <translation>Yerleşimi Program Başlangıcındaki Duruma Sıfırla</translation>
+        <translation>Başlangıçtaki Yerleşime Dön</translation>
     </message>
     <message>
         <source>Reset Layout to Factory Default</source>
-        <translation>Yerleşimi Fabrika Ayarlarına Sıfırla</translation>
+        <translation>Varsayılan Yerleşime Dön</translation>
     </message>
     <message>
         <source>Save Layouts</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>View File (*.views);;All Files (*.*)</source>
-        <translation>Görünüm Dosyası (*.views);;Tüm Dosyalar (*.*)</translation>
+        <translation>Yerleşim Dosyası (*.views);;Tüm Dosyalar (*.*)</translation>
     </message>
     <message>
         <source>Load Layouts</source>

@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>Import &amp; Merge ...</source>
-        <translation>Імпорт &amp; об’єднання ...</translation>
+        <translation>Імпорт і об’єднання ...</translation>
     </message>
     <message>
         <source>Reset Layout to Program Start</source>
-        <translation>Відновити компонування на момент запуску програми</translation>
+        <translation>Відновити компонування на момент запуску</translation>
     </message>
     <message>
         <source>Reset Layout to Factory Default</source>
-        <translation>Відновити заводське компонування</translation>
+        <translation>Відновити типове компонування</translation>
     </message>
     <message>
         <source>Save Layouts</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>View File (*.views);;All Files (*.*)</source>
-        <translation>Файл подань (*.views);;Усі файли (*.*)</translation>
+        <translation>Файл компонувань (*.views);;Усі файли (*.*)</translation>
     </message>
     <message>
         <source>Load Layouts</source>

@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>Import &amp; Merge ...</source>
-        <translation>导入 &amp; 合并 ...</translation>
+        <translation>导入并合并 ...</translation>
     </message>
     <message>
         <source>Reset Layout to Program Start</source>
-        <translation>将布局重置为程序启动时的状态</translation>
+        <translation>恢复启动时的布局</translation>
     </message>
     <message>
         <source>Reset Layout to Factory Default</source>
-        <translation>将布局重置为出厂默认值</translation>
+        <translation>恢复默认布局</translation>
     </message>
     <message>
         <source>Save Layouts</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>View File (*.views);;All Files (*.*)</source>
-        <translation>视图文件 (*.views);;所有文件 (*.*)</translation>
+        <translation>布局文件 (*.views);;所有文件 (*.*)</translation>
     </message>
     <message>
         <source>Load Layouts</source>

@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>Import &amp; Merge ...</source>
-        <translation>匯入 &amp; 合併 ...</translation>
+        <translation>匯入並合併 ...</translation>
     </message>
     <message>
         <source>Reset Layout to Program Start</source>
-        <translation>將版面配置重設為程式啟動時的狀態</translation>
+        <translation>還原啟動時的版面配置</translation>
     </message>
     <message>
         <source>Reset Layout to Factory Default</source>
-        <translation>將版面配置重設為出廠預設值</translation>
+        <translation>還原預設版面配置</translation>
     </message>
     <message>
         <source>Save Layouts</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>View File (*.views);;All Files (*.*)</source>
-        <translation>檢視檔 (*.views);;所有檔案 (*.*)</translation>
+        <translation>版面配置檔 (*.views);;所有檔案 (*.*)</translation>
     </message>
     <message>
         <source>Load Layouts</source>

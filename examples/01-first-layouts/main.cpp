@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "SaveAtEnd.h"
+
 #include <panorel/IManagable.h>
 #include <panorel/Manager.h>
 #include <panorel/Menu.h>
@@ -39,11 +41,12 @@ int main(int argc, char* argv[])
     if (stored.open(QIODevice::ReadOnly))
         manager.fromXml(stored.readAll(), /*merge=*/false); // The layouts of the last run,
     stored.close();
-    const int result = QApplication::exec();
-    QSaveFile file(stored.fileName());
-    if (file.open(QIODevice::WriteOnly)) {
+    const SaveAtEnd saveAtEnd([&] {
+        QSaveFile file(stored.fileName());
+        if (!file.open(QIODevice::WriteOnly))
+            return;
         file.write(manager.toXml(/*markActive=*/true)); // and those of this one.
         file.commit();
-    }
-    return result;
+    });
+    return QApplication::exec();
 }

@@ -2,6 +2,7 @@
 // Layouts that no crash, full disk or wrong file can lose. LayoutStore writes beside the old file
 // and changes places when all is written, and puts a file that it cannot read aside.
 // explainImports() tells what came of an import and takes back one that read nothing.
+#include "../01-first-layouts/SaveAtEnd.h"
 #include "LayoutCures.h"
 #include "LayoutStore.h"
 #include "LayoutUndo.h"
@@ -48,12 +49,10 @@ int main(int argc, char* argv[])
     window.show();
     LayoutStore store(LayoutStore::defaultFileName());
     window.tell(store.load(manager));
-    // When the session ends there may be no time left after exec().
-    QObject::connect(&app, &QGuiApplication::commitDataRequest, &manager,
-                     [&] { (void)store.save(manager); });
-    const int result = QApplication::exec();
-    const QString problem = store.save(manager);
-    if (!problem.isEmpty())
-        qWarning("%s", qPrintable(problem));
-    return result;
+    const SaveAtEnd saveAtEnd([&] {
+        const QString problem = store.save(manager);
+        if (!problem.isEmpty())
+            qWarning("%s", qPrintable(problem));
+    });
+    return QApplication::exec();
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Tour.h"
 
+#include "MenuParts.h"
 #include "Picture.h"
 #include "TourHands.h"
 
@@ -21,9 +22,6 @@ using namespace TourHands;
 
 namespace {
 
-constexpr int saveAsMenu = 0;
-constexpr int deleteMenu = 1;
-
 void print(const QString& line)
 {
     QTextStream(stdout) << line << '\n';
@@ -33,6 +31,17 @@ bool write(const QString& fileName, const QByteArray& bytes)
 {
     QFile file(fileName);
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+// Only for names of layouts, which are the same in all languages.
+QAction* entry(const QMenu& menu, const QString& name)
+{
+    const QList<QAction*> actions = menu.actions();
+    for (QAction* action : actions) {
+        if (action->text() == name)
+            return action;
+    }
+    return nullptr;
 }
 
 } // namespace
@@ -46,9 +55,12 @@ bool Tour::run()
 {
     place();
     picture(QStringLiteral("start"));
-    return refuseEmptyName() && saveFromMenu() && switchByMouse() && cycle() && deleteAndUndo() &&
-           askForName() && openByKeys() && switchGroups() && importBadFiles() && importGoodFile() &&
-           resetAll() && showManyLayouts();
+    const bool done = refuseEmptyName() && saveFromMenu() && switchByMouse() && cycle() &&
+                      deleteAndUndo() && askForName() && openByKeys() && switchGroups() &&
+                      importBadFiles() && importGoodFile() && resetAll() && showManyLayouts();
+    if (!done)
+        print(QStringLiteral("FAILED: the tour ends after picture %1").arg(m_steps));
+    return done && m_hasAllPictures;
 }
 
 bool Tour::refuseEmptyName()
@@ -58,13 +70,12 @@ bool Tour::refuseEmptyName()
         return false;
     if (!step(QStringLiteral("save-as"),
               QStringLiteral("Its first sub-menu opens with the field for a name ready."),
-              openSubMenu(saveAsMenu) &&
-                  qobject_cast<QLineEdit*>(subMenu(saveAsMenu).focusWidget())))
+              openSubMenu(saveAsMenu()) && qobject_cast<QLineEdit*>(saveAsMenu().focusWidget())))
         return false;
     press(Qt::Key_Return);
     return step(QStringLiteral("empty-name"),
                 QStringLiteral("Return in the empty field is refused."),
-                m_workbench.manager().views() == before && subMenu(saveAsMenu).isVisible() &&
+                m_workbench.manager().views() == before && saveAsMenu().isVisible() &&
                     told(QStringLiteral("A layout needs a name: type one, then press Return.")));
 }
 
@@ -86,12 +97,9 @@ bool Tour::switchByMouse()
     if (!openMenu())
         return false;
     Panorel::Menu& menu = m_workbench.menu();
-    for (QAction* action : menu.actions()) {
-        if (action->text() == QLatin1String("Wide")) {
-            click(menu, QStyle::visualPos(QApplication::layoutDirection(), menu.rect(),
-                                          menu.actionGeometry(action).center()));
-            break;
-        }
+    if (QAction* action = entry(menu, QStringLiteral("Wide"))) {
+        click(menu, QStyle::visualPos(QApplication::layoutDirection(), menu.rect(),
+                                      menu.actionGeometry(action).center()));
     }
     return step(QStringLiteral("wide-again"),
                 QStringLiteral("A click on \"Wide\" brings both windows back."), wide) &&
@@ -118,9 +126,9 @@ bool Tour::cycle()
 bool Tour::deleteAndUndo()
 {
     const QStringList before = m_workbench.manager().views();
-    if (!openMenu() || !openSubMenu(deleteMenu))
+    if (!openMenu() || !openSubMenu(deleteMenu()))
         return false;
-    const bool found = goTo(subMenu(deleteMenu), QStringLiteral("Wide"));
+    const bool found = goTo(deleteMenu(), entry(deleteMenu(), QStringLiteral("Wide")));
     if (!step(QStringLiteral("delete"), QStringLiteral("The other sub-menu deletes."), found))
         return false;
     press(Qt::Key_Return);
@@ -226,7 +234,7 @@ bool Tour::importGoodFile()
 bool Tour::resetAll()
 {
     disturb();
-    if (!openMenu() || !goTo(m_workbench.menu(), m_workbench.menu().actions().last()->text()))
+    if (!openMenu() || !goTo(m_workbench.menu(), MenuParts(m_workbench.menu()).factoryDefault()))
         return false;
     picture(QStringLiteral("reset"));
     press(Qt::Key_Return);
@@ -247,9 +255,10 @@ bool Tour::showManyLayouts()
     if (!openMenu())
         return false;
     const QRect screen = m_workbench.editor().screen()->availableGeometry();
-    // As high as the screen at most, and one column wide.
-    const QSize size = m_workbench.menu().size();
-    const bool fits = size.height() <= screen.height() && size.width() < screen.width() / 2;
+    // As high as the screen at most, and one column wide: an entry takes the width of its column.
+    const Panorel::Menu& menu = m_workbench.menu();
+    const int column = menu.actionGeometry(menu.actions().first()).width();
+    const bool fits = menu.height() <= screen.height() && 2 * column > menu.width();
     const bool shown =
         step(QStringLiteral("many"), QStringLiteral("A hundred layouts scroll."), fits);
     press(Qt::Key_Escape);
@@ -273,7 +282,7 @@ void Tour::place()
 
 void Tour::disturb()
 {
-    EditorWindow& editor = m_workbench.editor();
+    CodeWindow& editor = m_workbench.editor();
     editor.dock(QStringLiteral("Project"))->close();
     editor.addDockWidget(Qt::LeftDockWidgetArea, editor.dock(QStringLiteral("Search")));
     editor.toolBar(QStringLiteral("File"))->hide();
@@ -289,31 +298,29 @@ bool Tour::openMenu()
     return m_workbench.menu().isVisible();
 }
 
-bool Tour::openSubMenu(int index)
+bool Tour::openSubMenu(QMenu& subMenu)
 {
-    if (!goTo(m_workbench.menu(), subMenu(index).menuAction()->text()))
+    if (!goTo(m_workbench.menu(), subMenu.menuAction()))
         return false;
-    const bool isReversed = QApplication::isRightToLeft();
-    press(isReversed ? Qt::Key_Left : Qt::Key_Right);
-    if (!subMenu(index).isVisible())
+    press(QApplication::isRightToLeft() ? Qt::Key_Left : Qt::Key_Right);
+    if (!subMenu.isVisible())
         print(QStringLiteral("FAILED: the sub-menu has not opened"));
-    return subMenu(index).isVisible();
+    return subMenu.isVisible();
 }
 
-QMenu& Tour::subMenu(int index)
+QMenu& Tour::saveAsMenu() const
 {
-    QVector<QMenu*> found;
-    const QList<QAction*> actions = m_workbench.menu().actions();
-    for (const QAction* action : actions) {
-        if (action->menu())
-            found.append(action->menu());
-    }
-    return *found[index];
+    return *MenuParts(m_workbench.menu()).saveAs();
+}
+
+QMenu& Tour::deleteMenu() const
+{
+    return *MenuParts(m_workbench.menu()).deletion();
 }
 
 bool Tour::import(const QString& fileName, const QString& name)
 {
-    if (!openMenu() || !goTo(m_workbench.menu(), QStringLiteral("Import ...")))
+    if (!openMenu() || !goTo(m_workbench.menu(), MenuParts(m_workbench.menu()).import()))
         return false;
     chooseFile(
         fileName, [] { press(Qt::Key_Return); },
@@ -339,20 +346,22 @@ void Tour::picture(const QString& name)
     const bool offscreen = QGuiApplication::platformName() == QLatin1String("offscreen");
     const QImage image =
         offscreen ? pictureOfAll() : QGuiApplication::primaryScreen()->grabWindow(0).toImage();
-    if (!image.save(m_pictures.filePath(file)))
-        print(QStringLiteral("Cannot write %1").arg(file));
+    if (!image.save(m_pictures.filePath(file))) {
+        print(QStringLiteral("FAILED: cannot write %1").arg(file));
+        m_hasAllPictures = false;
+    }
 }
 
-bool Tour::step(const QString& name, const QString& text, bool isSo)
+bool Tour::step(const QString& name, const QString& text, bool holds)
 {
     picture(name);
     print(QStringLiteral("%1. %2 %3")
               .arg(m_steps)
               .arg(text,
                    m_workbench.status().message().prepend(QLatin1Char('[')) + QLatin1Char(']')));
-    if (!isSo)
+    if (!holds)
         print(QStringLiteral("FAILED"));
-    return isSo;
+    return holds;
 }
 
 bool Tour::step(const QString& name, const QString& text, const Shown& expected)

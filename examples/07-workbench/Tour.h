@@ -41,17 +41,19 @@ private:
     void place();
     void disturb();
     bool openMenu();
-    bool openSubMenu(int index);
+    bool openSubMenu(QMenu& subMenu);
     bool import(const QString& fileName, const QString& picture);
-    QMenu& subMenu(int index);
+    QMenu& saveAsMenu() const;
+    QMenu& deleteMenu() const;
     Shown shown() const;
 
     void picture(const QString& name);
-    bool step(const QString& name, const QString& text, bool isSo);
+    bool step(const QString& name, const QString& text, bool holds);
     bool step(const QString& name, const QString& text, const Shown& expected);
     bool told(const QString& message) const;
 
     Workbench& m_workbench;
     QDir m_pictures;
     int m_steps = 0;
+    bool m_hasAllPictures = true;
 };

@@ -78,11 +78,10 @@ void type(const QString& text)
     settle();
 }
 
-bool goTo(const QMenu& menu, const QString& text)
+bool goTo(const QMenu& menu, const QAction* action)
 {
     for (int i = 0; i <= menu.actions().size(); ++i) {
-        const QAction* active = menu.activeAction();
-        if (active && active->text() == text)
+        if (action && menu.activeAction() == action)
             return true;
         press(Qt::Key_Down);
     }

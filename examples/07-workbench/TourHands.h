@@ -22,8 +22,8 @@ void settle();
 void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 /** Types a text there. */
 void type(const QString& text);
-/** Goes down from entry to entry of an open menu until one with this text is the active one. */
-bool goTo(const QMenu& menu, const QString& text);
+/** Goes down from entry to entry of an open menu until @p action is the active one. */
+bool goTo(const QMenu& menu, const QAction* action);
 /** @param position as it is where one reads from left to right. */
 void click(QWidget& widget, const QPoint& position);
 

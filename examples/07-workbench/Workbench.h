@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "EditorWindow.h"
+#include "CodeWindow.h"
 #include "LayoutCures.h"
 #include "LayoutStore.h"
 #include "LayoutUndo.h"
@@ -35,7 +35,7 @@ public:
 
     QList<Panorel::ManagedWindow> managedWindows() override;
 
-    EditorWindow& editor() { return m_editor; }
+    CodeWindow& editor() { return m_editor; }
     PlotWindow& plot() { return m_plot; }
     Panorel::Manager& manager() { return m_manager; }
     Panorel::Menu& menu() { return m_menu; }
@@ -65,7 +65,7 @@ private:
     // In this order: the menus, one of them in a window, end before what they use.
     Panorel::Manager m_manager;
     LayoutUndo m_undo;
-    EditorWindow m_editor;
+    CodeWindow m_editor;
     PlotWindow m_plot;
     Panorel::Menu m_menu;
     LayoutStore m_store;

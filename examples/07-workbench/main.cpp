@@ -1,24 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "LayoutStore.h"
+#include "UserLanguage.h"
 #include "Workbench.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QLibraryInfo>
-#include <QLocale>
-#include <QTranslator>
 
 int main(int argc, char* argv[])
 {
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication app(argc, argv);
-    // Panorel's texts are translated already; this is for Qt's, such as those of the buttons.
-    QTranslator qtTexts;
-    if (qtTexts.load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
-                     QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(&qtTexts);
-    if (QLocale().textDirection() == Qt::RightToLeft)
-        QApplication::setLayoutDirection(Qt::RightToLeft);
+    const UserLanguage language;
 
     QCommandLineParser options;
     options.addHelpOption();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Tour.h"
+#include "UserLanguage.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -25,11 +26,11 @@ bool tour(const QString& file, const QDir& pictures)
 {
     Workbench workbench(file, /*mergeOnApply=*/false);
     workbench.start();
-    const bool isSo = Tour(workbench, pictures).run();
+    const bool done = Tour(workbench, pictures).run();
     workbench.manager().activateGroup(QStringLiteral("Debugging"));
     workbench.editor().dock(QStringLiteral("Console"))->close();
     workbench.editor().close();
-    return isSo;
+    return done;
 }
 
 // The next run of the program.
@@ -56,6 +57,7 @@ int main(int argc, char* argv[])
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     QApplication app(argc, argv);
+    const UserLanguage language;
     QApplication::setFont(QFont(QStringLiteral("sans-serif"), 9));
 
     QCommandLineParser options;

@@ -92,7 +92,7 @@ void MigrationTest::run(const Function& use)
     program.start();
     QTRY_VERIFY(program.isLoaded());
     use(program);
-    program.stop();
+    program.save();
 }
 
 QVariant MigrationTest::setting(const char* key) const

@@ -84,14 +84,14 @@ void Program::adoptOldLayout()
 }
 //! [adopt]
 
-//! [stop]
-void Program::stop()
+//! [save]
+void Program::save()
 {
     m_settings.setValue(QStringLiteral("window/geometry"), m_window.saveGeometry());
     if (m_isLoaded)
         tell(m_store.save(m_manager));
 }
-//! [stop]
+//! [save]
 
 void Program::tell(const QString& problem)
 {

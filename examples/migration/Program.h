@@ -32,8 +32,8 @@ public:
 
     /** Shows the window. Layouts are loaded as soon as it is on the screen. */
     void start();
-    /** To be called at the end of the run. */
-    void stop();
+    /** Saves the layouts. Called before the windows are closed, see SaveAtEnd. */
+    void save();
 
     QList<Panorel::ManagedWindow> managedWindows() override;
 

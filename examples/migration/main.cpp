@@ -3,6 +3,8 @@
 // it keeps its settings and layouts in.
 #include "Program.h"
 
+#include "../01-first-layouts/SaveAtEnd.h"
+
 #include <QApplication>
 #include <QDir>
 
@@ -13,7 +15,8 @@ int main(int argc, char* argv[])
     Program program(folder.filePath(QStringLiteral("settings.ini")),
                     folder.filePath(QStringLiteral("layouts.views")));
     program.start();
-    const int result = QApplication::exec();
-    program.stop();
-    return result;
+    //! [save-at-end]
+    const SaveAtEnd saveAtEnd([&] { program.save(); });
+    //! [save-at-end]
+    return QApplication::exec();
 }

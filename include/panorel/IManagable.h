@@ -14,7 +14,7 @@ namespace Panorel {
 struct ManagedWindow
 {
     /** The DescriptorId. It names the window in every stored layout, so keep it stable between
-        runs. An empty id means that the window is not managed. */
+        runs. An empty id means that the window is not managed; then it is never used. */
     QString descriptorId;
     /** The window to capture from and to restore; not owned. A null window is passed over. */
     QMainWindow* window = nullptr;
@@ -28,12 +28,13 @@ struct ManagedWindow
 class PANOREL_EXPORT IManagable
 {
 public:
+    /** Constructs the interface. */
     IManagable() = default;
     /** Nothing is unregistered: a Manager must not capture or restore after this. */
     virtual ~IManagable() = 0;
 
     /**
-     * The windows to manage, each with its DescriptorId. Asked on the GUI thread, anew for every
+     * The windows to manage, each with its DescriptorId. Asked on the GUI thread, again for every
      * capture and every restore, so the answer may change between calls. Every window in the list
      * must be alive when it is returned; one that another owner destroys after that is passed over,
      * if it is not in the middle of being captured or restored. Where two windows share an id, the
@@ -44,7 +45,7 @@ public:
 protected:
     /** For an implementation that is copied. The copy is another owner, not yet registered. */
     IManagable(const IManagable&) = default;
-    /** Copies nothing, for there is nothing here. Registrations stay as they are. */
+    /** Copies nothing, because there are no members. Registrations stay as they are. */
     IManagable& operator=(const IManagable&) = default;
 };
 

@@ -26,10 +26,10 @@ struct View;
 /**
  * Keeps the layouts of an application's main windows under names.
  *
- * A saved layout is a view. Views stand in groups, whose names are given at construction; one group
- * is active, and all view operations act on it. Each group has its saved views in creation order,
- * at most one of which is its active view, and a working layout of its own, the current view, which
- * is never among the saved ones. Only the live windows are shared by all groups.
+ * A saved layout is a view. Views belong to groups, whose names are given at construction; one
+ * group is active, and all view operations act on it. Each group has its saved views in creation
+ * order, at most one of which is its active view, and a working layout of its own, the current
+ * view, which is never among the saved ones. Only the live windows are shared by all groups.
  *
  * The Manager owns its groups and views and nothing else: registered objects and their windows
  * must be alive whenever a layout is captured or restored. It stores nothing outside memory; take
@@ -42,7 +42,7 @@ struct View;
  * A receiver, and an owner that is asked for its windows, may call any operation again and destroy
  * windows, but not delete the Manager. The operation that was under way goes on by its own steps
  * afterwards, on the group and the view that it had found; a signal that follows may therefore name
- * a view that is gone. saveCurrentViewAs() makes its view anew if an owner has deleted it.
+ * a view that is gone. saveCurrentViewAs() creates its view again if an owner has deleted it.
  *
  * View names are compared exactly and never checked: an empty name is stored like any other, and so
  * is "__current__", the internal name of the current view.
@@ -53,6 +53,8 @@ class PANOREL_EXPORT Manager : public QObject, private IManagable
 
 public:
     /**
+     * Constructs a Manager with a group for each name and without saved views.
+     *
      * @param groups names of the groups; a name that occurs again is skipped. The first group
      * becomes active. Give at least one: without any there is a single group without a name.
      * @param mergeOnApply when true, restoring a layout brings back its dock widgets while the tool

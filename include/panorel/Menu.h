@@ -21,7 +21,7 @@ class Manager;
  * It keeps no data of its own and follows the Manager's signals: entries are rebuilt when views or
  * groups change, the check mark moves when a view is activated. An entry's data is the view's name.
  * A view whose user data converts to true is shown in italics as "... (skipped)" and passed over by
- * toggleView(); Manager::viewUserData() tells of none so far.
+ * toggleView(); Manager::viewUserData() reports none so far.
  *
  * The Manager is not owned and must outlive the menu. The menu may be deleted by whoever receives a
  * signal of its actions or of the Manager, but not while one of its file dialogs is open. Nothing
@@ -34,6 +34,8 @@ class PANOREL_EXPORT Menu : public QMenu
 
 public:
     /**
+     * Constructs a menu of the Manager's views.
+     *
      * @param manager not null; not owned, and must outlive the menu.
      * @param extended whether the file and reset entries are there.
      * @param parent deletes the menu with itself; may be null.
@@ -42,11 +44,13 @@ public:
      * font at this moment.
      */
     Menu(Manager* manager, bool extended, QWidget* parent = nullptr);
+    /** Destroys the menu; the Manager stays. */
     ~Menu() override;
 
 public Q_SLOTS:
     /** Rebuilds the view entries and both sub-menus, then updateSelection(). Text typed but not
-        confirmed is lost. */
+        confirmed is lost. The former actions are deleted; one that is being triggered is removed
+        at once and deleted when the event is over. */
     void updateMenu();
     /** Puts the check mark on the active view; without one, on none. It stays where it was if no
         entry has the active view's name. */

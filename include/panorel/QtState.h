@@ -92,6 +92,20 @@ public:
                     static void release(Block* block) noexcept;
                 };
 
+                /** An empty sequence. */
+                Block() = default;
+                /** Copies nested blocks too, to any depth. */
+                Block(const Block& other) = default;
+                /** Leaves @p other without items. */
+                Block(Block&& other) = default;
+                /** Copies nested blocks too, to any depth. @p other may be one that is nested in
+                    this block. */
+                Block& operator=(const Block& other) { return *this = Block(other); }
+                /** Leaves @p other without items. */
+                Block& operator=(Block&& other) = default;
+                /** Destroys nested blocks too, to any depth. */
+                ~Block() = default;
+
                 /** True for tabs, false for a sequence. */
                 bool tabbed = false;
                 /** Index of the tab on top; meaningful for tabs only. */
@@ -129,7 +143,7 @@ public:
             QString objectName;
             /** Qt's flags: bit 0 shown, bit 1 vertical. */
             unsigned char shown = 0;
-            /** The carried integers stand in the x coordinates, in order; every y stays 0, and so
+            /** The carried integers are in the x coordinates, in order; every y stays 0, and so
                 does the fourth point of a section that is not extended. */
             QPoint values[4];
         };
@@ -190,8 +204,8 @@ public:
      */
     static QtState merge(const QtState& a, const QtState& b);
 
-    /** Creates the file @p fileName, or empties it if it exists; nothing is written. Failure is not
-        told. */
+    /** Creates the file @p fileName, or empties it if it exists; nothing is written.
+        Failures are not reported. */
     void dump(const QString& fileName) const;
 
     /** True exactly when the version is -1: empty, cleared, or read from a blob that says so. */

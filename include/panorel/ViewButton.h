@@ -23,11 +23,14 @@ class PANOREL_EXPORT ViewButton : public QToolButton
 
 public:
     /**
+     * Constructs a button with a menu of the Manager's views.
+     *
      * @param manager not null; not owned, and must outlive the button.
      * @param text shown as it is, whichever view is active.
      * @param parent deletes the button with itself; may be null.
      */
     ViewButton(Manager* manager, const QString& text, QWidget* parent = nullptr);
+    /** Destroys the button with its menu; the Manager stays. */
     ~ViewButton() override;
 
 private:

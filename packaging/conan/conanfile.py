@@ -14,8 +14,8 @@ class PanorelConan(ConanFile):
     package_type = "shared-library"
     settings = "os", "arch", "compiler", "build_type"
     options = {"translations": [True, False]}
-    default_options = {"translations": True, "qt/*:shared": True, "qt/*:qtxmlpatterns": True,
-                       "qt/*:qttools": True}
+    # The texts in other languages would have Qt built with all of its tools.
+    default_options = {"translations": False, "qt/*:shared": True, "qt/*:qtxmlpatterns": True}
 
     def set_version(self):
         text = load(self, join(self._checkout, "CMakeLists.txt"))
@@ -30,6 +30,10 @@ class PanorelConan(ConanFile):
                         "resources/*", "src/*", "startup/*", "translations/*"):
             copy(self, pattern, src=self._checkout, dst=self.export_sources_folder)
 
+    def configure(self):
+        if self.options.translations:
+            self.options["qt/*"].qttools = True
+
     def requirements(self):
         # Its headers and its widgets are in the library's own headers.
         self.requires("qt/[~5.15]", transitive_headers=True, transitive_libs=True)
@@ -40,9 +44,12 @@ class PanorelConan(ConanFile):
     def generate(self):
         toolchain = CMakeToolchain(self)
         toolchain.cache_variables["BUILD_TESTING"] = False
-        toolchain.cache_variables["CMAKE_DISABLE_FIND_PACKAGE_TumoAppStartUp"] = True
-        wanted = "REQUIRE" if self.options.translations else "DISABLE"
-        toolchain.cache_variables[f"CMAKE_{wanted}_FIND_PACKAGE_Qt5LinguistTools"] = True
+        toolchain.cache_variables["PANOREL_BUILD_TOOL"] = False
+        toolchain.cache_variables["PANOREL_BUILD_TRANSLATIONS"] = bool(self.options.translations)
+        if self.options.translations:
+            # Conan's Qt has the program, but not the package for CMake that would tell its place.
+            toolchain.cache_variables["PANOREL_LRELEASE"] = join(
+                self.dependencies["qt"].package_folder, "bin", "lrelease")
         toolchain.generate()
         CMakeDeps(self).generate()
 
@@ -58,7 +65,12 @@ class PanorelConan(ConanFile):
     def package_info(self):
         # The package for CMake that the library installs is the one to find.
         self.cpp_info.set_property("cmake_find_mode", "none")
-        self.cpp_info.builddirs = [join("lib", "cmake", "Panorel")]
-        self.cpp_info.set_property("pkg_config_name", "panorel")
-        self.cpp_info.libs = ["panorel"]
-        self.cpp_info.requires = ["qt::qtWidgets", "qt::qtNetwork", "qt::qtXmlPatterns"]
+        library = self.cpp_info.components["panorel"]
+        library.set_property("pkg_config_name", "panorel")
+        library.builddirs = [join("lib", "cmake", "Panorel")]
+        library.libs = ["panorel"]
+        library.requires = ["qt::qtWidgets", "qt::qtXmlPatterns"]
+        kit = self.cpp_info.components["kit"]
+        kit.set_property("pkg_config_name", "panorel-kit")
+        kit.libs = ["panorelkit"]
+        kit.requires = ["panorel"]

@@ -5,16 +5,14 @@ cmake_path(SET SOURCE_PATH NORMALIZE "${CURRENT_PORT_DIR}/../..")
 vcpkg_check_linkage(ONLY_DYNAMIC_LIBRARY)
 vcpkg_check_features(OUT_FEATURE_OPTIONS feature_options
     FEATURES
-        translations CMAKE_REQUIRE_FIND_PACKAGE_Qt5LinguistTools
-    INVERTED_FEATURES
-        translations CMAKE_DISABLE_FIND_PACKAGE_Qt5LinguistTools)
+        translations PANOREL_BUILD_TRANSLATIONS)
 
 vcpkg_cmake_configure(
     SOURCE_PATH "${SOURCE_PATH}"
     OPTIONS
         ${feature_options}
         -DBUILD_TESTING=OFF
-        -DCMAKE_DISABLE_FIND_PACKAGE_TumoAppStartUp=ON)
+        -DPANOREL_BUILD_TOOL=OFF)
 vcpkg_cmake_install()
 vcpkg_copy_pdbs()
 vcpkg_cmake_config_fixup(PACKAGE_NAME Panorel CONFIG_PATH lib/cmake/Panorel)

@@ -1,69 +1,62 @@
 // SPDX-License-Identifier: MIT
 #include "DocumentGuard.h"
 
-#include "TagScan.h"
+#include "CheckedDocument.h"
+#include "DocumentEncoding.h"
+#include "MarkupScan.h"
 
-#include <QHash>
-#include <QStack>
-#include <QXmlStreamReader>
+#include <QByteArray>
+#include <QUrl>
+#include <QXmlSchema>
+#include <QXmlSchemaValidator>
 
 namespace Panorel::Detail {
 
 namespace {
 
-const QLatin1String schemaInstance("http://www.w3.org/2001/XMLSchema-instance");
-
-// The namespace prefixes that are in scope, counted, for an inner element may declare one again.
-class PrefixScopes
+bool validate(const QByteArray& document, const QXmlSchemaValidator& validator)
 {
-public:
-    void enter(const QXmlStreamNamespaceDeclarations& declarations)
-    {
-        for (const QXmlStreamNamespaceDeclaration& declaration : declarations)
-            ++m_counts[declaration.prefix().toString()];
-        m_scopes.push(declarations);
-    }
+    return validator.validate(document, QUrl());
+}
 
-    void leave()
-    {
-        const QXmlStreamNamespaceDeclarations declarations = m_scopes.pop();
-        for (const QXmlStreamNamespaceDeclaration& declaration : declarations)
-            --m_counts[declaration.prefix().toString()];
-    }
-
-    bool contains(const QString& prefix) const { return m_counts.value(prefix) > 0; }
-
-private:
-    // Without "xml", which is always declared: no type bears it.
-    QHash<QString, int> m_counts;
-    QStack<QXmlStreamNamespaceDeclarations> m_scopes;
-};
-
-bool isTypeDeclared(const QXmlStreamAttributes& attributes, const PrefixScopes& scopes)
+// For a document whose markup cannot be seen without Qt's reader. It is read as the validator reads
+// it, piece by piece.
+bool validateChecked(const QByteArray& document, const QXmlSchemaValidator& validator)
 {
-    const QString type = attributes.value(schemaInstance, QLatin1String("type")).toString();
-    const int colon = type.indexOf(QLatin1Char(':'));
-    return colon < 0 || scopes.contains(type.left(colon).trimmed());
+    CheckedDocument checked(document);
+    return validator.validate(&checked, QUrl());
+}
+
+// The scan comes first, because it takes a small part of the validator's time and may make the rest
+// unnecessary.
+//
+// Deliberate: the schema hints of a document have no effect, whereas the validator on its own would
+// load what they name, from wherever it is.
+bool validateGuarded(const QByteArray& document, const QXmlSchemaValidator& validator)
+{
+    const QByteArray text = DocumentEncoding::textOf(document);
+    const bool isCopy = text.constData() != document.constData();
+    if (text.isNull())
+        return validateChecked(document, validator);
+    const MarkupScan scan(text);
+    if (scan.result() == MarkupScan::Result::Invalid)
+        return false;
+    if (scan.result() == MarkupScan::Result::Unclear || (isCopy && scan.hasSchemaHints()))
+        return validateChecked(document, validator);
+    return validate(scan.hasSchemaHints() ? scan.withoutSchemaHints() : document, validator);
 }
 
 } // namespace
 
-bool DocumentGuard::mayBeValidated(const QByteArray& data)
+bool DocumentGuard::isValid(const QByteArray& document, const QXmlSchema& schema)
 {
-    PrefixScopes scopes;
-    QXmlStreamReader reader(data);
-    while (!reader.atEnd()) {
-        const QXmlStreamReader::TokenType token = reader.readNext();
-        if (token == QXmlStreamReader::StartElement) {
-            scopes.enter(reader.namespaceDeclarations());
-            const QXmlStreamAttributes attributes = reader.attributes();
-            if (attributes.size() > mostAttributes || !isTypeDeclared(attributes, scopes))
-                return false;
-        } else if (token == QXmlStreamReader::EndElement) {
-            scopes.leave();
-        }
+    try {
+        return validateGuarded(document, QXmlSchemaValidator(schema));
+    } catch (...) {
+        // The memory was not enough, or the validator threw something of its own; it does so for
+        // some errors. Either way nothing shows that the document is valid.
+        return false;
     }
-    return true;
 }
 
 } // namespace Panorel::Detail

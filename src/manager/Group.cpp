@@ -4,6 +4,7 @@
 #include <panorel/Manager.h>
 
 #include <algorithm>
+#include <cstring>
 
 namespace Panorel {
 
@@ -17,9 +18,21 @@ Group::Group(Manager* owner, const QString& groupName)
 
 View* Group::findView(const QString& viewName) const
 {
-    const auto it = std::find_if(views.cbegin(), views.cend(),
-                                 [&](const auto& view) { return view->name == viewName; });
+    // Beside many views this is most of the work, so the names are not compared by a call of Qt's.
+    const auto size = static_cast<std::size_t>(viewName.size());
+    const auto isNamed = [&](const std::unique_ptr<View>& view) {
+        return view->name.size() == viewName.size() &&
+               std::memcmp(view->name.constData(), viewName.constData(), size * sizeof(QChar)) == 0;
+    };
+    const auto it = std::find_if(views.cbegin(), views.cend(), isNamed);
     return it == views.cend() ? nullptr : it->get();
+}
+
+View* Group::findView(const QString& viewName, quint64 serial) const
+{
+    if (!views.empty() && views.back()->serial == serial)
+        return views.back().get();
+    return findView(viewName);
 }
 
 View* Group::appendView(const QString& viewName)
@@ -59,7 +72,7 @@ void Group::applyCurrentView()
 
 void Group::selectView(View* view, bool emitSignal)
 {
-    // Taken before the windows change, for whoever watches them may delete the view.
+    // Copied before the windows change, because their watchers may delete the view.
     const QString viewName = view ? view->name : QString();
     activeView = view;
     if (view) {

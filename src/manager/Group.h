@@ -24,6 +24,8 @@ struct Group
 
     /** The first saved view of exactly this name, or null. */
     View* findView(const QString& viewName) const;
+    /** The same, without a search if it still is the last one and has this serial number. */
+    View* findView(const QString& viewName, quint64 serial) const;
     /** Appends an empty saved view. */
     View* appendView(const QString& viewName);
     /** Destroys the saved view of this serial number, if the group still has it. */

@@ -129,12 +129,12 @@ bool Manager::createView(const QString& name)
     if (m_activeGroup->findView(name))
         return false;
     Group* group = m_activeGroup;
-    // Copied, for the window owners are asked, and what they do may change the caller's text or
-    // replace the view.
+    // Copied, because the window owners are asked, who may change the caller's text or replace the
+    // view.
     const QString viewName = name;
-    group->appendView(viewName);
+    const quint64 serial = group->appendView(viewName)->serial;
     const StateMap states = captureStates();
-    if (View* view = group->findView(viewName))
+    if (View* view = group->findView(viewName, serial))
         view->states = states;
     Q_EMIT groupModified();
     return true;
@@ -143,14 +143,16 @@ bool Manager::createView(const QString& name)
 bool Manager::saveCurrentViewAs(const QString& name)
 {
     Group* group = m_activeGroup;
-    // Copied, for the window owners and the receivers may change the caller's text.
+    // Copied, because the window owners and the receivers may change the caller's text.
     const QString viewName = name;
-    bool created = !group->findView(viewName);
-    if (created)
-        group->appendView(viewName);
-    group->captureCurrentView();
-    // Looked up again, for the owners that were asked may have deleted it.
     View* view = group->findView(viewName);
+    bool created = !view;
+    if (created)
+        view = group->appendView(viewName);
+    const quint64 serial = view->serial;
+    group->captureCurrentView();
+    // Looked up again, because the owners that were asked may have deleted it.
+    view = group->findView(viewName, serial);
     if (!view) {
         view = group->appendView(viewName);
         created = true;
@@ -170,7 +172,7 @@ void Manager::deleteView(const QString& name)
     if (!view)
         return;
     // A receiver may delete the view itself and even create one of the same name, so from here on
-    // it is known by its serial number.
+    // it is identified by its serial number.
     const quint64 serial = view->serial;
     if (view == group->activeView) {
         group->activeView = nullptr;
@@ -221,17 +223,20 @@ QList<ManagedWindow> Manager::managedWindows()
     if (m_managables.size() == 1)
         return m_managables.constFirst()->managedWindows();
     QList<ManagedWindow> windows;
-    // An owner that is asked may destroy a window that another one has answered with.
+    // An owner that is asked may destroy a window that another one has answered with. An entry
+    // without an id is not managed, so its window need not even exist.
     QVector<QPointer<QMainWindow>> watched;
     const QList<IManagable*> managables = m_managables;
     for (IManagable* managable : managables) {
         const QList<ManagedWindow> own = managable->managedWindows();
         windows.append(own);
         for (const ManagedWindow& managed : own)
-            watched.append(managed.window);
+            watched.append(managed.descriptorId.isEmpty() ? nullptr : managed.window);
     }
-    for (int i = 0; i < windows.size(); ++i)
-        windows[i].window = watched[i];
+    for (int i = 0; i < windows.size(); ++i) {
+        if (!windows[i].descriptorId.isEmpty())
+            windows[i].window = watched[i];
+    }
     return windows;
 }
 
@@ -243,7 +248,7 @@ StateMap Manager::captureStates()
         if (managed.descriptorId.isEmpty() || !managed.window)
             continue;
         const QByteArray state = managed.window->saveState(layoutVersion);
-        // Copied, for the stream that wrote it has set aside up to twice its size.
+        // Copied, because the stream that wrote it reserves up to twice its size.
         if (!state.isEmpty())
             states.insert(managed.descriptorId, QByteArray(state.constData(), state.size()));
     }
@@ -285,7 +290,7 @@ StateMap Manager::mergeStates(const StateMap& stored, const StateMap& live)
 
 void Manager::applyStates(const StateMap& states)
 {
-    // Copied before any window owner is asked, for what they do may change the view.
+    // Copied before any window owner is asked, because they may change the view.
     StateMap working = states;
     if (m_mergeOnApply)
         working = mergeStates(working, captureStates());

@@ -3,11 +3,8 @@
 // The Manager's operations on the view-settings document.
 
 #include "DefaultMessageHandler.h"
-#include "DenyingNetworkAccessManager.h"
 #include "DocumentGuard.h"
 #include "Group.h"
-#include "SchemaHints.h"
-#include "TagScan.h"
 #include "WritableText.h"
 
 #include <panorel/Manager.h>
@@ -15,7 +12,6 @@
 #include <QFile>
 #include <QHash>
 #include <QXmlSchema>
-#include <QXmlSchemaValidator>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
@@ -37,9 +33,9 @@ void writeState(QXmlStreamWriter& writer, const QString& element, const QString&
 {
     writer.writeStartElement(element);
     writer.writeAttribute(QStringLiteral("DescriptorId"), writable(descriptorId));
-    // The empty text closes the start tag; the digits need no escaping and go past the writer,
-    // which would look at each of them several times. It writes UTF-8 and keeps nothing back, so
-    // they come to stand in their place.
+    // The empty text closes the start tag. The digits need no escaping, so they bypass the writer,
+    // which would look at each of them several times. It writes UTF-8 without a buffer of its own,
+    // so they end up in the right place.
     writer.writeCharacters(QString());
     writer.device()->write(state.toHex());
     writer.writeEndElement();
@@ -51,34 +47,34 @@ void writeStates(QXmlStreamWriter& writer, const QString& element, const StateMa
         writeState(writer, element, it.key(), it.value());
 }
 
-// The four bits that a hexadecimal digit stands for; @p others becomes 1 where it is none. All in
-// short integers, without branches and tables: so the compiler makes several digits at a time.
-ushort hexDigit(ushort code, ushort& others)
+// Returns the value of a hexadecimal digit; sets @p invalidDigit to 1 if it is none. Uses short
+// integers only, and neither branches nor tables, so that the compiler can vectorise the loop.
+ushort hexDigit(ushort code, ushort& invalidDigit)
 {
     const ushort isNumber = static_cast<ushort>(code - u'0') < 10;
     const ushort isLetter = static_cast<ushort>((code | 0x20) - u'a') < 6;
-    others = static_cast<ushort>(others | ((isNumber | isLetter) ^ 1));
+    invalidDigit = static_cast<ushort>(invalidDigit | ((isNumber | isLetter) ^ 1));
     return static_cast<ushort>((code & 0xF) + 9 * isLetter);
 }
 
-// Puts what pairs of digits and nothing else stand for into @p state; false for other text.
+// Decodes text that consists of pairs of digits into @p state; false for any other text.
 bool decodePairs(const QStringRef& text, QByteArray& state)
 {
     const int size = text.size() / 2;
     state = QByteArray(size, Qt::Uninitialized);
     const auto* code = reinterpret_cast<const ushort*>(text.data());
     char* bytes = state.data();
-    ushort others = 0;
+    ushort invalidDigit = 0;
     for (qptrdiff i = 0; i < size; ++i) {
-        const ushort high = hexDigit(code[2 * i], others);
-        const ushort low = hexDigit(code[2 * i + 1], others);
+        const ushort high = hexDigit(code[2 * i], invalidDigit);
+        const ushort low = hexDigit(code[2 * i + 1], invalidDigit);
         bytes[i] = static_cast<char>(high << 4 | low);
     }
-    return text.size() % 2 == 0 && others == 0;
+    return text.size() % 2 == 0 && invalidDigit == 0;
 }
 
-// What QByteArray::fromHex() makes of the element's text. Most of a document is such text, as a
-// rule in one piece without anything else, which is decoded where the reader has it.
+// Returns what QByteArray::fromHex() makes of the element's text. Most of a document is such text,
+// usually in one piece, which is decoded without copying it out of the reader.
 QByteArray readHex(QXmlStreamReader& reader)
 {
     QByteArray state;
@@ -93,6 +89,9 @@ QByteArray readHex(QXmlStreamReader& reader)
             text += reader.text();
         reader.readNext();
     }
+    // As readElementText() would, which ends the reading of the document.
+    if (reader.isStartElement())
+        reader.raiseError();
     return QByteArray::fromHex(text.toUtf8());
 }
 
@@ -119,19 +118,13 @@ QXmlSchema Manager::loadSchema() const
 
 bool Manager::validateDocument(const QByteArray& data, QAbstractMessageHandler* handler) const
 {
-    // Outlives the schema and the validator, which refer to it.
-    Detail::DenyingNetworkAccessManager network;
+    // Outlives the schema, which refers to it.
     Detail::DefaultMessageHandler defaultHandler;
     QXmlSchema schema = loadSchema();
-    const Detail::TagScan tags(data);
-    if (!schema.isValid() || tags.hasOverfullTag())
-        return false;
-    if (!tags.isPlain() && !Detail::DocumentGuard::mayBeValidated(data))
+    if (!schema.isValid())
         return false;
     schema.setMessageHandler(handler ? handler : &defaultHandler);
-    schema.setNetworkAccessManager(&network);
-    const QXmlSchemaValidator validator(schema);
-    return validator.validate(tags.isPlain() ? data : Detail::SchemaHints::removed(data), QUrl());
+    return Detail::DocumentGuard::isValid(data, schema);
 }
 
 QByteArray Manager::toXml(bool markActive)
@@ -184,7 +177,7 @@ void Manager::writeView(const View& view, QXmlStreamWriter& writer) const
 
 bool Manager::fromXml(const QByteArray& data, bool merge)
 {
-    // A copy, for a receiver of clear()'s signals may change the caller's array.
+    // Copied, because a receiver of clear()'s signals may change the caller's array.
     const QByteArray document = data;
     if (!validateDocument(document))
         return false;
@@ -209,12 +202,17 @@ bool Manager::fromXml(const QByteArray& data, bool merge)
     return true;
 }
 
+// Deliberate: an element that does not belong where it is gets no action and is not skipped either.
+// The loop that meets it goes on inside it and ends where it ends. Only a document whose root may
+// hold anything has such elements; here and in all that follows.
 void Manager::readDocument(QXmlStreamReader& reader, StateMap& toolBarStates)
 {
     while (reader.readNextStartElement()) {
         if (reader.name() == QLatin1String("Groups"))
             readGroups(reader);
-        else if (reader.name() == QLatin1String("ToolBarState") && m_mergeOnApply)
+        else if (reader.name() != QLatin1String("ToolBarState"))
+            continue;
+        else if (m_mergeOnApply)
             readState(reader, toolBarStates);
         else
             reader.skipCurrentElement();
@@ -224,6 +222,8 @@ void Manager::readDocument(QXmlStreamReader& reader, StateMap& toolBarStates)
 void Manager::readGroups(QXmlStreamReader& reader)
 {
     while (reader.readNextStartElement()) {
+        if (reader.name() != QLatin1String("Group"))
+            continue;
         if (Group* group = findGroup(attribute(reader, "Name")))
             readGroup(*group, reader);
         else
@@ -236,7 +236,7 @@ void Manager::readGroup(Group& group, QXmlStreamReader& reader)
     while (reader.readNextStartElement()) {
         if (reader.name() == QLatin1String("Views"))
             readViews(group, reader);
-        else
+        else if (reader.name() == QLatin1String("CurrentView"))
             readView(*group.currentView, reader);
     }
     if (group.currentView->states.isEmpty())
@@ -250,6 +250,8 @@ void Manager::readViews(Group& group, QXmlStreamReader& reader)
     for (auto it = group.views.crbegin(); it != group.views.crend(); ++it)
         viewsByName.insert((*it)->name, it->get());
     while (reader.readNextStartElement()) {
+        if (reader.name() != QLatin1String("View"))
+            continue;
         const QString name = attribute(reader, "Name");
         const QString active = attribute(reader, "Active");
         View*& view = viewsByName[name];
@@ -267,7 +269,7 @@ void Manager::readView(View& view, QXmlStreamReader& reader)
     while (reader.readNextStartElement()) {
         if (reader.name() == QLatin1String("State"))
             readState(reader, view.states);
-        else
+        else if (reader.name() == QLatin1String("UserData"))
             view.userData = QVariant(reader.readElementText());
     }
 }
@@ -276,7 +278,7 @@ bool Manager::viewsValid() const
 {
     if (!m_mergeOnApply)
         return true;
-    // Capturing asks the window owners, who are not const, and changes nothing here.
+    // Capturing calls the window owners, which is not const, and changes nothing here.
     const QStringList ids = const_cast<Manager*>(this)->captureStates().keys();
     for (const Group* group : m_groups) {
         for (const auto& view : group->views) {

@@ -15,7 +15,7 @@ struct View
     StateMap states;
     /** The application's data; read from and written to the document, and by nothing else. */
     QVariant userData;
-    /** Tells a saved view from others of its group, past ones included. */
+    /** Identifies a saved view within its group, also among those that were removed. */
     quint64 serial = 0;
 };
 

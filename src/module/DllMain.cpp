@@ -11,7 +11,7 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID reserved
 {
     static_cast<void>(instance);
     static_cast<void>(reserved);
-    // Heap strings, for the service may outlive this library.
+    // Heap strings, because the service may outlive this library.
     if (reason == DLL_PROCESS_ATTACH)
         TranslationCenter::Instance().Register(QString::fromLatin1("Panorel"));
     else if (reason == DLL_PROCESS_DETACH)

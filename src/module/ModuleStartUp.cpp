@@ -10,29 +10,11 @@
 // On Windows DllMain() registers the translation context.
 #ifndef Q_OS_WIN
 
-#include <TranslationCenter.h>
-
-#include <QString>
+#include "TranslationContext.h"
 
 namespace {
 
-// A heap string, for the service may outlive this library, where a QStringLiteral's data would
-// vanish with it.
-QString contextName()
-{
-    return QString::fromLatin1("Panorel");
-}
-
-class ModuleStartUp
-{
-public:
-    ModuleStartUp() { TranslationCenter::Instance().Register(contextName()); }
-    ModuleStartUp(const ModuleStartUp&) = delete;
-    ModuleStartUp& operator=(const ModuleStartUp&) = delete;
-    ~ModuleStartUp() { TranslationCenter::Instance().Unregister(contextName()); }
-};
-
-const ModuleStartUp moduleStartUp;
+const Panorel::Detail::TranslationContext context("Panorel");
 
 } // namespace
 

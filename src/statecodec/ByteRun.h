@@ -10,7 +10,7 @@
 namespace Panorel::Detail {
 
 /**
- * Fixed fields that follow each other and go through the stream in one call: most of a blob is
+ * Consecutive fixed fields that are read or written in one call of the stream. Most of a blob is
  * integers, and a call for each costs more than everything else together.
  *
  * Either read the run and take its fields, or put its fields and write it.

@@ -12,7 +12,7 @@ namespace Panorel::Detail {
 class LimitedBuffer : public QBuffer
 {
 public:
-    /** Open for writing; @p bytes must outlive it. */
+    /** Opens the buffer for writing; @p bytes must outlive it. */
     explicit LimitedBuffer(QByteArray& bytes)
         : QBuffer(&bytes)
     {

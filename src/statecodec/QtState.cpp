@@ -20,7 +20,7 @@ using Item = Block::Item;
 using Line = QtState::ToolBarAreaLayout::Line;
 using Detail::ByteRun;
 
-// Their values stand in the class; defined here they have addresses, which are exported.
+// Their values are in the class. Defined here, they have addresses, which are exported.
 const int QtState::QMainWindowLayout_VersionMarker;
 const unsigned char QtState::QToolBarAreaLayout_ToolBarStateMarker;
 const unsigned char QtState::QToolBarAreaLayout_ToolBarStateMarkerEx;
@@ -37,7 +37,7 @@ bool isOk(const QDataStream& stream)
     return stream.status() == QDataStream::Ok;
 }
 
-// Reads what stands before the items.
+// Reads the fields before the items.
 bool readBlockHead(QDataStream& stream, Block& block, int& itemCount)
 {
     quint8 marker = 0;

@@ -31,7 +31,7 @@ std::unique_ptr<Block> outline(const Block& block)
                                             std::vector<Item>(block.items.size())});
 }
 
-// The blocks nested in the items get their items later, for which they are left in @p tasks.
+// Appends a task for each nested block, which gets its items later.
 void copyItems(const Task& task, std::vector<Task>& tasks)
 {
     Item* copy = task.to->items.data();
@@ -49,8 +49,8 @@ void copyItems(const Task& task, std::vector<Task>& tasks)
     }
 }
 
-// A block that waits for its destruction has no more use for the values of its first item. Where
-// the next one waits is kept there, for a destructor should not need memory.
+// The waiting blocks form a list. Its pointers overwrite the values of each block's first item,
+// which are no longer used, because a destructor should not allocate memory.
 constexpr std::size_t nextSize = sizeof(void*);
 static_assert(nextSize <= sizeof(Item::values));
 
@@ -68,8 +68,8 @@ Block* nextOf(const Block& block)
 
 } // namespace
 
-// Nested blocks are walked with a list of what is still to do instead of recursion: they can nest
-// deeper than any stack.
+// Nested blocks are walked with a list of tasks instead of recursion, because they can nest deeper
+// than any stack.
 
 std::unique_ptr<Block> Item::clone(const Block& source)
 {

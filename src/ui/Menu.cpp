@@ -1,25 +1,48 @@
 // SPDX-License-Identifier: MIT
 #include <panorel/Menu.h>
 
+#include "EntryGroup.h"
 #include "MenuEdit.h"
 #include "SkippedView.h"
 
 #include <panorel/Manager.h>
 
-#include <QActionGroup>
 #include <QApplication>
 #include <QFile>
 #include <QFileDialog>
 #include <QTextStream>
 #include <QWidgetAction>
 
+#include <algorithm>
+
 namespace Panorel {
+
+namespace {
+
+// The constructor of the menu makes the group.
+EntryGroup* entryGroup(QActionGroup* group)
+{
+    return static_cast<EntryGroup*>(group);
+}
+
+// The action that shows the name field.
+QAction* actionOf(const QMenu* menu, const QObject* field)
+{
+    const QList<QAction*> actions = menu->actions();
+    const auto it = std::find_if(actions.cbegin(), actions.cend(), [&](const QAction* action) {
+        const auto* widgetAction = qobject_cast<const QWidgetAction*>(action);
+        return widgetAction && widgetAction->defaultWidget() == field;
+    });
+    return it == actions.cend() ? nullptr : *it;
+}
+
+} // namespace
 
 Menu::Menu(Manager* manager, bool extended, QWidget* parent)
     : QMenu(tr("Layouts"), parent)
     , m_manager(manager)
     , m_extended(extended)
-    , m_viewGroup(new QActionGroup(this))
+    , m_viewGroup(new EntryGroup(this))
     , m_normalFont(QApplication::font())
     , m_skippedFont(m_normalFont)
 {
@@ -28,6 +51,9 @@ Menu::Menu(Manager* manager, bool extended, QWidget* parent)
     m_viewSeparator = addSeparator();
     m_saveAsMenu = addMenu(tr("Save Current Layout As..."));
     m_deleteMenu = addMenu(tr("Delete Layout..."));
+    for (QMenu* menu : {m_saveAsMenu, m_deleteMenu})
+        connect(menu, &QMenu::triggered, this,
+                [this](QAction* action) { entryGroup(m_viewGroup)->hold(action); });
     if (m_extended)
         addExtendedEntries();
     updateMenu();
@@ -71,6 +97,7 @@ void Menu::connectExtendedEntries()
 
 void Menu::updateMenu()
 {
+    entryGroup(m_viewGroup)->removeHeld();
     qDeleteAll(m_viewGroup->actions());
     const QStringList names = m_manager->views();
     for (const QString& name : names)
@@ -165,12 +192,15 @@ void Menu::saveCurrentLayoutAs(const QString& name)
 
 void Menu::onActionTriggered(QAction* action)
 {
+    entryGroup(m_viewGroup)->hold(action);
     m_manager->activateView(action->data().toString());
 }
 
 void Menu::onSaveLayoutAsTriggered(const QString& name)
 {
-    // Whoever watches the menu close may delete it.
+    if (QAction* action = actionOf(m_saveAsMenu, sender()))
+        entryGroup(m_viewGroup)->hold(action);
+    // A watcher of the menu may delete it when it closes.
     Manager* manager = m_manager;
     close();
     // Deliberate: an empty name is passed on too, and the Manager takes it.

@@ -19,7 +19,7 @@ void MenuEdit::keyPressEvent(QKeyEvent* event)
     }
     const QString input = text();
     setText(QString());
-    // Last, for the menu deletes this field when the new view makes it rebuild.
+    // Last, because the receiver may delete this field.
     Q_EMIT inputAccepted(input);
 }
 

@@ -19,7 +19,7 @@ NameDialog::NameDialog(Manager* manager, const QStringList& existingNames, bool 
     , m_buttonBox(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this))
     , m_manager(manager)
     , m_existingNames(existingNames)
-    // With a ground of its own, for no red can be read on every palette, and palettes change.
+    // With a background of its own, because no red is readable on every palette.
     , m_errorStyleSheet(QStringLiteral("color: #8c1d18; background-color: #f9dedc"))
     , m_allowActiveName(allowActiveName)
 {
@@ -46,25 +46,23 @@ QString NameDialog::name() const
 
 void NameDialog::onTextChanged(const QString& text)
 {
-    const QString problem = problemWith(text);
-    const bool acceptable = problem.isEmpty();
-    m_messageLabel->setStyleSheet(acceptable ? QString() : m_errorStyleSheet);
-    m_messageLabel->setText(problem);
-    m_buttonBox->button(QDialogButtonBox::Ok)->setEnabled(acceptable);
-    // The focus stays in the field, so this is where a screen reader tells the problem.
-    m_nameEdit->setAccessibleDescription(problem);
+    const bool isEmpty = text.trimmed().isEmpty();
+    const bool isAcceptable = !isEmpty && !isInUse(text);
+    QString message;
+    if (!isAcceptable)
+        message = isEmpty ? tr("Name must not be empty!") : tr("Name already in use!");
+    m_messageLabel->setStyleSheet(isAcceptable ? QString() : m_errorStyleSheet);
+    m_messageLabel->setText(message);
+    m_buttonBox->button(QDialogButtonBox::Ok)->setEnabled(isAcceptable);
+    // The focus stays in the field, so this is where a screen reader looks for the message.
+    m_nameEdit->setAccessibleDescription(message);
 }
 
-// Empty when the name is acceptable.
-QString NameDialog::problemWith(const QString& text) const
+bool NameDialog::isInUse(const QString& text) const
 {
-    if (text.trimmed().isEmpty())
-        return tr("Name must not be empty!");
     // Deliberate: not trimmed, so a name with other blanks at its ends passes as new.
     const bool isAllowed = m_allowActiveName && text == m_manager->activeView();
-    if (m_existingNames.contains(text) && !isAllowed)
-        return tr("Name already in use!");
-    return QString();
+    return m_existingNames.contains(text) && !isAllowed;
 }
 
 } // namespace Panorel

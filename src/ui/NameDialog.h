@@ -39,7 +39,7 @@ private Q_SLOTS:
     void onTextChanged(const QString& text);
 
 private:
-    QString problemWith(const QString& text) const;
+    bool isInUse(const QString& text) const;
 
     QLineEdit* m_nameEdit;
     QLabel* m_messageLabel;

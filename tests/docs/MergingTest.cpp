@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "EditorWindow.h"
-#include "WithoutRepeats.h"
 
-#include "support/RecordedBlobs.h"
 #include "support/Text.h"
 
 #include <panorel/Manager.h>
+#include <panorel/QtState.h>
+#include <panorel/kit/WindowState.h>
 
+#include <QDataStream>
+#include <QFile>
 #include <QTabBar>
 #include <QTest>
 
@@ -37,6 +39,43 @@ QString tabOnTop(const QMainWindow& window)
     return QString();
 }
 
+// Two dock widgets that can be tabs of one floating window, as in the recorded state.
+class GroupedWindow : public QMainWindow, public IManagable
+{
+public:
+    GroupedWindow()
+    {
+        setDockOptions(dockOptions() | QMainWindow::GroupedDragging);
+        for (const QString& name : {"First"_s, "Second"_s}) {
+            auto* dock = new QDockWidget(name, this);
+            dock->setObjectName(name);
+            addDockWidget(Qt::LeftDockWidgetArea, dock);
+        }
+        bar = addToolBar("edit"_s);
+        bar->setObjectName("edit"_s);
+    }
+
+    bool floatTogether()
+    {
+        QFile file(QFINDTESTDATA("../data/blobs/rejected/floating-tabs.blob"));
+        // The recorded window has no tool bar; this one's is to stay.
+        const QByteArray dockAreas = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        const QByteArray own = saveState();
+        return restoreState(dockAreas.left(dockAreas.size() - 5) +
+                            own.mid(own.indexOf(QByteArray::fromHex("fc00000001"))));
+    }
+
+    bool areTogether() const
+    {
+        return dockOf(*this, "First"_s)->parentWidget() != this &&
+               dockOf(*this, "First"_s)->isVisible() && dockOf(*this, "Second"_s)->isVisible();
+    }
+
+    QList<ManagedWindow> managedWindows() override { return {{"main"_s, this}}; }
+
+    QToolBar* bar = nullptr;
+};
+
 } // namespace
 
 /** What the guide says of a Manager that merges. */
@@ -48,12 +87,14 @@ private Q_SLOTS:
     void docksComeFromTheViewAndBarsStay();
     void thePlaceOfABarComesBackWithTheDocument();
     void layoutsGrow();
+    void aProgramThatIsOnlyStartedGrowsToo();
     void thoseWithDocksOnOneSideDoNot();
     void theCureKeepsThemAsTheyAre();
     void theCureKeepsTheArrangement_data();
     void theCureKeepsTheArrangement();
-    void theCureLeavesOtherBytesAlone();
-    void theCureLeavesRecordedLayoutsAlone();
+    void anOpenFloatingTabGroupTakesTheToolBarsAway();
+    void aStoredFloatingTabGroupIsClosed();
+    void aHiddenToolBarWithoutNameAppears();
 };
 
 void MergingTest::docksComeFromTheViewAndBarsStay()
@@ -97,6 +138,25 @@ void MergingTest::layoutsGrow()
         QVERIFY2(sizes[i] > sizes[i - 1], qPrintable(QString::number(sizes[i])));
 }
 
+// Each run reads the document of the last one and writes its own; no layout is saved.
+void MergingTest::aProgramThatIsOnlyStartedGrowsToo()
+{
+    QByteArray document;
+    QVector<int> sizes;
+    for (int run = 0; run < 5; ++run) {
+        Manager manager({"Group"_s}, /*mergeOnApply=*/true);
+        EditorWindow window;
+        window.addDockWidget(Qt::RightDockWidgetArea, dockOf(window, "outline"_s));
+        manager.registerManagable(window);
+        QVERIFY(document.isEmpty() || manager.fromXml(document, /*merge=*/false));
+        document = manager.toXml(/*markActive=*/true);
+        sizes.append(document.size());
+    }
+    // With three sides, each run adds more than the one before.
+    for (int i = 2; i < sizes.size(); ++i)
+        QVERIFY(sizes[i] - sizes[i - 1] > sizes[i - 1] - sizes[i - 2]);
+}
+
 void MergingTest::thoseWithDocksOnOneSideDoNot()
 {
     EditorWindow window;
@@ -118,8 +178,9 @@ void MergingTest::theCureKeepsThemAsTheyAre()
     Manager manager({"Group"_s}, /*mergeOnApply=*/true);
     manager.registerManagable(window);
     //! [tidy]
-    QObject::connect(&manager, &Panorel::Manager::viewActivated, &window,
-                     [&window] { window.restoreState(withoutRepeats(window.saveState())); });
+    QObject::connect(&manager, &Panorel::Manager::viewActivated, &window, [&window] {
+        window.restoreState(Panorel::Kit::WindowState(window.saveState()).tidied());
+    });
     //! [tidy]
     QCOMPARE(sizesInRounds(window, manager, 4), QVector<int>({size, size, size, size}));
 }
@@ -150,7 +211,7 @@ void MergingTest::theCureKeepsTheArrangement()
 
     EditorWindow other;
     other.show();
-    QVERIFY(other.restoreState(withoutRepeats(grown)));
+    QVERIFY(other.restoreState(Kit::WindowState(grown).tidied()));
     QCOMPARE(other.dockWidgetArea(dockOf(other, "files"_s)), Qt::LeftDockWidgetArea);
     QCOMPARE(other.dockWidgetArea(dockOf(other, "outline"_s)), Qt::RightDockWidgetArea);
     QCOMPARE(other.tabifiedDockWidgets(dockOf(other, "outline"_s)),
@@ -159,20 +220,66 @@ void MergingTest::theCureKeepsTheArrangement()
     QCOMPARE(other.saveState().size(), before.size());
 }
 
-void MergingTest::theCureLeavesOtherBytesAlone()
+void MergingTest::anOpenFloatingTabGroupTakesTheToolBarsAway()
 {
-    QCOMPARE(withoutRepeats("not a layout"), QByteArray("not a layout"));
-    EditorWindow window;
-    QCOMPARE(withoutRepeats(window.saveState()), window.saveState());
+    GroupedWindow window;
+    window.show();
+    Manager manager({"Group"_s}, /*mergeOnApply=*/true);
+    manager.registerManagable(window);
+    manager.saveCurrentViewAs(mine);
+    QVERIFY(window.floatTogether());
+    QVERIFY(window.areTogether());
+    QCOMPARE(window.toolBarArea(window.bar), Qt::TopToolBarArea);
+    // The group's section, as the page on the format says.
+    const QWidget* group = dockOf(window, "First"_s)->parentWidget();
+    QByteArray section;
+    QDataStream(&section, QIODevice::WriteOnly)
+        << quint8(0xF9) << group->geometry() << quint8(0xFA);
+    const QByteArray state = window.saveState();
+    QVERIFY(state.contains(section));
+    QtState value;
+    QVERIFY(!value.read(state));
+    QCOMPARE(value.m_dockAreaLayouts.size(), std::size_t{1});
+    QCOMPARE(value.m_toolBarAreaLayouts.size(), std::size_t{0});
+
+    QVERIFY(manager.activateView(mine));
+    QCOMPARE(window.toolBarArea(window.bar), Qt::NoToolBarArea);
 }
 
-// What real windows have saved that never were restored with merging.
-void MergingTest::theCureLeavesRecordedLayoutsAlone()
+void MergingTest::aStoredFloatingTabGroupIsClosed()
 {
-    const auto blobs = recordedBlobs(QFINDTESTDATA("../data/blobs"));
-    QVERIFY(!blobs.empty());
-    for (const auto& blob : blobs)
-        QVERIFY2(withoutRepeats(blob.bytes) == blob.bytes, blob.name.constData());
+    for (const bool mergeOnApply : {false, true}) {
+        GroupedWindow window;
+        window.show();
+        const QByteArray plain = window.saveState();
+        Manager manager({"Group"_s}, mergeOnApply);
+        manager.registerManagable(window);
+        QVERIFY(window.floatTogether());
+        manager.saveCurrentViewAs(mine);
+        QVERIFY(window.restoreState(plain));
+        QVERIFY(!window.areTogether());
+        QVERIFY(manager.activateView(mine));
+        QCOMPARE(window.areTogether(), !mergeOnApply);
+        QCOMPARE(dockOf(window, "First"_s)->isHidden(), mergeOnApply);
+        QCOMPARE(window.toolBarArea(window.bar), Qt::TopToolBarArea);
+    }
+}
+
+void MergingTest::aHiddenToolBarWithoutNameAppears()
+{
+    for (const bool mergeOnApply : {false, true}) {
+        EditorWindow window;
+        window.addToolBar("first"_s);
+        window.addToolBarBreak();
+        QToolBar* hidden = window.addToolBar("second"_s);
+        hidden->hide();
+        window.show();
+        Manager manager({"Group"_s}, mergeOnApply);
+        manager.registerManagable(window);
+        manager.saveCurrentViewAs(mine);
+        QVERIFY(manager.activateView(mine));
+        QCOMPARE(hidden->isHidden(), !mergeOnApply);
+    }
 }
 
 } // namespace Panorel::Tests

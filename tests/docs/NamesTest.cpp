@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "EditorWindow.h"
 
-#include "support/LogLines.h"
+#include "support/MessageWatch.h"
 #include "support/Text.h"
 
 #include <panorel/Manager.h>
@@ -98,7 +98,8 @@ private Q_SLOTS:
 
 void NamesTest::aDockWithoutANameIsNotRestored()
 {
-    const LogLines log; // Qt's warnings are the next test's affair.
+    // The next test checks Qt's warnings.
+    const MessageWatch watch(MessageWatch::Started);
     EditorWindow window;
     QDockWidget* outline = dockOf(window, "outline"_s);
     outline->setObjectName(QString());
@@ -118,12 +119,12 @@ void NamesTest::qtWarnsOfItWhenALayoutIsSaved()
     dockOf(window, "outline"_s)->setObjectName(QString());
     Manager manager({"Group"_s}, /*mergeOnApply=*/false);
     manager.registerManagable(window);
-    const LogLines log;
+    const MessageWatch watch(MessageWatch::Started);
     manager.createView("Mine"_s);
-    QCOMPARE(log.lines().size(), 1);
+    QCOMPARE(watch.messages().size(), 1);
     QVERIFY(manager.activateView("Mine"_s)); // Says nothing more.
-    QCOMPARE(log.lines().size(), 1);
-    QVERIFY(log.lines().first().contains("'objectName' not set for QDockWidget"_s));
+    QCOMPARE(watch.messages().size(), 1);
+    QVERIFY(watch.messages().first().contains("'objectName' not set for QDockWidget"_s));
 }
 
 void NamesTest::twoOfOneNameChangePlaces()

@@ -43,10 +43,10 @@ QByteArray withRenamedId(const QByteArray& document, const QString& from, const 
         }
         writer.writeStartElement(reader.name().toString());
         for (const QXmlStreamAttribute& attribute : reader.attributes()) {
-            const bool isIt =
+            const bool isReplaced =
                 attribute.name() == QLatin1String("DescriptorId") && attribute.value() == from;
             writer.writeAttribute(attribute.name().toString(),
-                                  isIt ? to : attribute.value().toString());
+                                  isReplaced ? to : attribute.value().toString());
         }
     }
     return result;

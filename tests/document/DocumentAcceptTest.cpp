@@ -117,13 +117,13 @@ void DocumentAcceptTest::stateText_data()
     QTest::newRow("a reference to white space") << QByteArray("&#10;aa") << QByteArray("aa");
     QTest::newRow("a comment") << QByteArray("aa<!-- cc -->bb") << QByteArray("aabb");
     QTest::newRow("a comment splitting a byte") << QByteArray("a<!-- -->a") << QByteArray("aa");
-    QTest::newRow("a comment behind three digits")
+    QTest::newRow("a comment after three digits")
         << QByteArray("aab<!-- -->b") << QByteArray("aabb");
     QTest::newRow("comments only") << QByteArray("<!-- aa --><!-- bb -->") << QByteArray();
     QTest::newRow("a comment at the end") << QByteArray("aabb<!-- cc -->") << QByteArray("aabb");
     QTest::newRow("several pieces")
         << QByteArray("Aa<!-- -->b<?x?>b<![CDATA[c]]>c") << QByteArray("aabbcc");
-    QTest::newRow("white space behind a comment")
+    QTest::newRow("white space after a comment")
         << QByteArray("aabb<!-- --> ") << QByteArray("aabb");
     QTest::newRow("an instruction") << QByteArray("aa<?cc dd?>bb") << QByteArray("aabb");
     QTest::newRow("a no-break space at the end, against the rules")

@@ -29,6 +29,8 @@ private Q_SLOTS:
     void halfOfAPair_data();
     void halfOfAPair();
     void pairs();
+    void halfOfAPairBesideOthers_data();
+    void halfOfAPairBesideOthers();
     void halfOfAPairInUserData();
 
 private:
@@ -130,7 +132,7 @@ void DocumentCharactersTest::halfOfAPair_data()
     QTest::newRow("wrong order") << "a"_s + QChar(0xDC00) + QChar(0xD800) << "a??"_s;
 }
 
-// Qt's writer would leave out every name behind it, and nobody could read the document again.
+// Qt's writer would leave out every name after it, and the document could not be read again.
 void DocumentCharactersTest::halfOfAPair()
 {
     QFETCH(QString, name);
@@ -161,6 +163,34 @@ void DocumentCharactersTest::pairs()
 }
 
 // The text of user data comes from a document, which holds such halves only in UTF-16.
+void DocumentCharactersTest::halfOfAPairBesideOthers_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("expected");
+    const QChar high(0xD83D);
+    const QChar low(0xDE00);
+    const QChar mark(0xFEFF);
+    const QString pair = QString(high) + low;
+    const auto row = [](const char* name, const QString& written, const QString& read) {
+        QTest::newRow(name) << written << read;
+    };
+    row("byte order mark first", mark + QString(high) + "a"_s, mark + "?a"_s);
+    row("two first halves", QString(high) + high, "??"_s);
+    row("two second halves", QString(low) + low, "??"_s);
+    row("halves in the wrong order", QString(low) + high, "??"_s);
+    row("half before a pair", high + pair, "?"_s + pair);
+    row("half after a pair", pair + low, pair + "?"_s);
+}
+
+void DocumentCharactersTest::halfOfAPairBesideOthers()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, expected);
+    QVERIFY(m_manager->createView(name));
+    QVERIFY(m_manager->fromXml(m_manager->toXml(false), /*merge=*/false));
+    QCOMPARE(m_manager->views(), QStringList{expected});
+}
+
 void DocumentCharactersTest::halfOfAPairInUserData()
 {
     const QString text = QString::fromUtf8(document(group("G", view("v", userData("half")))));

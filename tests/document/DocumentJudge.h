@@ -2,7 +2,7 @@
 #pragma once
 
 #include "DocumentFixture.h"
-#include "support/LogLines.h"
+#include "support/MessageWatch.h"
 #include "support/Owner.h"
 #include "support/SignalLog.h"
 #include "support/SmallWindow.h"
@@ -33,12 +33,12 @@ public:
     void expectAccepted(const QByteArray& data)
     {
         QVERIFY(m_ready);
-        const LogLines log;
+        const MessageWatch watch(MessageWatch::Started);
         QVERIFY(manager.setFactoryDefaultView(data));
         QVERIFY(manager.setProgramStartView(data));
         QVERIFY(manager.fromXml(data, /*merge=*/true));
         QVERIFY(manager.fromXml(data, /*merge=*/false));
-        QCOMPARE(log.lines(), QStringList());
+        QCOMPARE(watch.messages(), QStringList());
     }
 
     /** All four ways refuse it, and nothing changes and nothing is emitted or logged. */
@@ -46,12 +46,12 @@ public:
     {
         QVERIFY(m_ready);
         const QByteArrayList before = snapshot();
-        const LogLines log;
+        const MessageWatch watch(MessageWatch::Started);
         QVERIFY(!manager.fromXml(data, /*merge=*/true));
         QVERIFY(!manager.fromXml(data, /*merge=*/false));
         QVERIFY(!manager.setFactoryDefaultView(data));
         QVERIFY(!manager.setProgramStartView(data));
-        QCOMPARE(log.lines(), QStringList());
+        QCOMPARE(watch.messages(), QStringList());
         QCOMPARE(record.lines(), QStringList());
         QCOMPARE(snapshot(), before);
         QVERIFY(!manager.programStartViewSet());

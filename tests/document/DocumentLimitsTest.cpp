@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "DocumentJudge.h"
 
+#include <QThread>
+
+#include <memory>
+
 using namespace Panorel::Tests;
 
 namespace {
@@ -24,6 +28,18 @@ QByteArray numbered(const QByteArray& before, const QByteArray& after)
     return pieces;
 }
 
+// A root that may hold anything, with more levels under it.
+QByteArray anything(int levels)
+{
+    return "<a xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\""
+           " xmlns:xs=\"http://www.w3.org/2001/XMLSchema\" xsi:type=\"xs:anyType\">" +
+           QByteArray("<b>").repeated(levels - 1) + QByteArray("</b>").repeated(levels - 1) +
+           "</a>";
+}
+
+// Which leaves the look at the markup to Qt's reader.
+const QByteArray unclear = "<!DOCTYPE a [<!ATTLIST b c:d CDATA ''>]>";
+
 // Entities of which each stands for ten of the one before; the first is @p seed.
 QByteArray entities(int levels, const QByteArray& seed)
 {
@@ -46,6 +62,7 @@ class DocumentLimitsTest : public QObject
 private Q_SLOTS:
     void judge_data();
     void judge();
+    void deepestFitsASmallStack();
     void manyViewsAreAllRead();
 };
 
@@ -77,6 +94,11 @@ void DocumentLimitsTest::judge_data()
     row("groups 100,000 deep", false,
         document(QByteArray("<Group Name=\"A\">").repeated(100000) +
                  QByteArray("</Group>").repeated(100000)));
+    row("1,000 levels of anything", true, anything(1000));
+    row("1,001 levels of anything", false, anything(1001));
+    row("40,000 levels of anything", false, anything(40000));
+    row("1,000 levels of anything, read once more", true, unclear + anything(1000));
+    row("40,000 levels of anything, read once more", false, unclear + anything(40000));
     row("a tag with a thousand attributes", false,
         document({}).replace("<ViewData", "<ViewData" + numbered(" a", "=\"\"")));
     row("a tag with a thousand attributes, encoding in single quotes", false,
@@ -98,9 +120,23 @@ void DocumentLimitsTest::judge()
     QFETCH(bool, accepted);
     // One way in only, for each of them costs a validation.
     Panorel::Manager manager(names("A"), /*mergeOnApply=*/false);
-    const LogLines log;
+    const MessageWatch watch(MessageWatch::Started);
     QCOMPARE(manager.fromXml(data, /*merge=*/true), accepted);
-    QCOMPARE(log.lines(), QStringList());
+    QCOMPARE(watch.messages(), QStringList());
+}
+
+// That of a secondary thread on some systems.
+void DocumentLimitsTest::deepestFitsASmallStack()
+{
+    bool accepted = false;
+    const std::unique_ptr<QThread> thread(QThread::create([&accepted] {
+        Panorel::Manager manager(names("A"), /*mergeOnApply=*/false);
+        accepted = manager.fromXml(anything(1000), /*merge=*/true);
+    }));
+    thread->setStackSize(512 * 1024);
+    thread->start();
+    QVERIFY(thread->wait());
+    QVERIFY(accepted);
 }
 
 void DocumentLimitsTest::manyViewsAreAllRead()

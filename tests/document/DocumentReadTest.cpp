@@ -83,7 +83,7 @@ void DocumentReadTest::savedViews_data()
     row("a name twice", group("A", view("c") + view("d") + view("c")), "c,d", "a,b,c,d");
     row("names differing in case", group("A", view("A") + view("a")), "A,a", "a,b,A");
     row("a group twice", group("A", view("c")) + group("A", view("d")), "c,d", "a,b,c,d");
-    row("a group behind an unknown one", group("C", view("c")) + group("A", view("d")), "d",
+    row("a group after an unknown one", group("C", view("c")) + group("A", view("d")), "d",
         "a,b,d");
     row("reserved name", group("A", view("__current__")), "__current__", "a,b,__current__");
 }

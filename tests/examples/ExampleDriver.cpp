@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ExampleDriver.h"
 
-#include "Drives.h"
+#include "Ends.h"
+#include "ExampleUser.h"
 
 #include <QCoreApplication>
 #include <QTimer>
@@ -9,7 +10,13 @@
 QObject* ExampleDriver::create(const QString& name, const QString& spec)
 {
     Q_UNUSED(name)
+    const QString end = QStringLiteral("end.");
     // When the event loop runs, the program has shown its windows.
-    QTimer::singleShot(0, [spec] { QCoreApplication::exit(Drives::drive(spec) ? 0 : 1); });
+    QTimer::singleShot(0, [spec, end] {
+        if (spec.startsWith(end))
+            Panorel::Tests::Ends::floatAndEnd(spec.mid(end.size()));
+        else
+            QCoreApplication::exit(Panorel::Tests::useExample(spec) ? 0 : 1);
+    });
     return new QObject;
 }

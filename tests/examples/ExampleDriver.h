@@ -4,7 +4,7 @@
 #include <QGenericPlugin>
 
 /**
- * Uses an example as a person would, from inside: with QT_QPA_GENERIC_PLUGINS=drive:NAME Qt loads
+ * Uses an example as a user would, from inside: with QT_QPA_GENERIC_PLUGINS=drive:NAME Qt loads
  * it into the program, which need not know of it. The program then ends with 0, or with 1 when
  * something was not as expected.
  */

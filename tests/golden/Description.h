@@ -8,8 +8,8 @@
 namespace Panorel::Tests {
 
 /**
- * A value in the words of tools/describe-blob. The items that reading repeats in later records are
- * left out, so that the text is about the window.
+ * A value in the words of the texts beside the recorded blobs. The items that reading repeats in
+ * later records are left out, so that the text is about the window.
  */
 class Description
 {

@@ -85,7 +85,7 @@ void LoadTest::thousandOwners_data()
 void LoadTest::thousandOwners()
 {
     QFETCH(bool, merge);
-    // Every tenth has a window, the others have none or one without an id.
+    // Every tenth has a window, the rest have none or one without an id.
     std::vector<SmallWindow> windows(100);
     SmallWindow unmanaged;
     std::vector<Owner> owners(1000);

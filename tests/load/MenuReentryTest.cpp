@@ -53,7 +53,7 @@ QLineEdit* editOf(const QMenu& menu)
     return qobject_cast<QLineEdit*>(action->defaultWidget());
 }
 
-/** Runs an action when the watched object is told to close, before it does. */
+/** Runs an action when the watched object gets a close event, before it handles that. */
 class CloseWatch : public QObject
 {
 public:
@@ -71,7 +71,7 @@ protected:
 
 } // namespace
 
-/** The menu and the button while others delete them, rebuild them or change the views. */
+/** The menu and the button while other code deletes them, rebuilds them or changes the views. */
 class MenuReentryTest : public QObject
 {
     Q_OBJECT
@@ -166,7 +166,7 @@ void MenuReentryTest::deletedByASignal()
             connect(m_manager.get(), &Manager::groupModified, &receiver, remove);
             connect(m_manager.get(), &Manager::groupActivated, &receiver, remove);
         };
-        // Receivers are told in the order of their connecting.
+        // Receivers are called in the order in which they were connected.
         delete m_menu;
         if (before)
             connectReceiver();
@@ -250,6 +250,7 @@ void MenuReentryTest::fieldRebuiltByReturn()
     const QPointer<QLineEdit> edit = editOf(menu());
     QTest::keyClicks(edit, "new"_s);
     QTest::keyClick(edit, Qt::Key_Enter);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(!edit);
     QCOMPARE(textsOf(menu()), lines({"a", "b", "new"}));
     QCOMPARE(editOf(menu())->text(), QString());

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ModelManager.h"
+#include "support/ManagerModel.h"
 #include "support/Owner.h"
 #include "support/SignalLog.h"
 #include "support/SmallWindow.h"
@@ -9,11 +9,26 @@
 #include <QtTest>
 
 #include <functional>
+#include <optional>
 
 using namespace Panorel;
 using namespace Panorel::Tests;
 
 namespace {
+
+/** A window whose layout is a number. */
+struct NumberWindow
+{
+    using Layout = std::optional<int>;
+
+    Layout capture() const { return number; }
+    void restore(const Layout& layout, bool) { number = *layout; }
+    static bool isCaptured(const Layout& layout) { return layout.has_value(); }
+
+    int number = 1;
+};
+
+using NumberModel = ManagerModel<NumberWindow>;
 
 /** A Manager and its model, side by side: what is done to one is done to the other. */
 struct Pair
@@ -24,19 +39,29 @@ struct Pair
     {
         manager.registerManagable(owner);
     }
+    Q_DISABLE_COPY_MOVE(Pair)
+
+    /** As SignalLog does it for the Manager. */
+    void log(const QString& signal)
+    {
+        modelLog.append(signal + " ["_s + model.activeGroup() + ": "_s +
+                        model.views().join(", "_s) + "; active "_s + quoted(model.activeView()) +
+                        "]"_s);
+    }
 
     void place(int area)
     {
         window.moveDock(Qt::DockWidgetArea(area));
-        model.live = area;
+        model.live.number = area;
     }
 
     SmallWindow window;
     Owner owner{{{"window"_s, &window}}};
     Manager manager;
-    ModelManager model;
+    NumberModel model;
+    QStringList modelLog;
     QByteArray document;
-    ModelManager::Document modelDocument;
+    NumberModel::Document modelDocument;
 };
 
 struct Operation
@@ -54,16 +79,6 @@ Operation operation(const char* name, Call call)
             [call](Pair& pair) { call(pair.model, pair.modelDocument); }};
 }
 
-QByteArray document(Manager& manager)
-{
-    return manager.toXml(/*markActive=*/true);
-}
-
-ModelManager::Document document(ModelManager& model)
-{
-    return model.toXml();
-}
-
 const std::vector<Operation>& operations()
 {
     static const std::vector<Operation> all{
@@ -78,7 +93,7 @@ const std::vector<Operation>& operations()
         operation("deleteView other", [](auto& m, auto&) { m.deleteView("b"_s); }),
         operation("deleteView new", [](auto& m, auto&) { m.deleteView("new"_s); }),
         operation("clear", [](auto& m, auto&) { m.clear(); }),
-        operation("toXml", [](auto& m, auto&) { (void)document(m); }),
+        operation("toXml", [](auto& m, auto&) { (void)m.toXml(true); }),
         operation("fromXml", [](auto& m, auto& d) { m.fromXml(d, false); }),
         operation("fromXml merge", [](auto& m, auto& d) { m.fromXml(d, true); }),
         operation("setFactoryDefaultView", [](auto& m, auto& d) { m.setFactoryDefaultView(d); }),
@@ -103,7 +118,7 @@ void fill(Pair& pair, bool withSpecialViews)
     both([](auto& m, auto&) { m.activateGroup("G"_s); });
     pair.place(Qt::LeftDockWidgetArea);
     both([](auto& m, auto&) { m.createView("b"_s); });
-    both([](auto& m, auto& d) { d = document(m); });
+    both([](auto& m, auto& d) { d = m.toXml(true); });
     pair.place(Qt::RightDockWidgetArea);
     both([](auto& m, auto&) { m.saveCurrentViewAs("a"_s); });
     if (withSpecialViews) {
@@ -113,7 +128,7 @@ void fill(Pair& pair, bool withSpecialViews)
     pair.place(Qt::TopDockWidgetArea);
 }
 
-/** Counts the places where others get their turn, and acts at one of them. */
+/** Counts the places where other code is called, and acts at one of them. */
 class Turn
 {
 public:
@@ -133,7 +148,7 @@ private:
     std::function<void()> m_act;
 };
 
-/** Gives others their turn at every signal and whenever the owner is asked. */
+/** Takes a turn at every signal and whenever the owner is asked. */
 class Hooks
 {
 public:
@@ -151,13 +166,18 @@ public:
         on(&Manager::factoryDefaultViewChanged);
         on(&Manager::programStartViewChanged);
         pair.owner.onAsked = act;
-        pair.model.log.clear();
-        pair.model.onAsked = pair.model.onSignal = [&modelTurn] { modelTurn(); };
+        pair.modelLog.clear();
+        pair.model.onAsked = [&modelTurn] { modelTurn(); };
+        pair.model.onSignal = [&pair, &modelTurn](const QString& signal) {
+            pair.log(signal);
+            modelTurn();
+        };
     }
     ~Hooks()
     {
         m_pair.owner.onAsked = nullptr;
-        m_pair.model.onAsked = m_pair.model.onSignal = [] {};
+        m_pair.model.onAsked = [] {};
+        m_pair.model.onSignal = [](const QString&) {};
     }
     Q_DISABLE_COPY_MOVE(Hooks)
 
@@ -166,9 +186,9 @@ private:
     QObject m_receiver;
 };
 
-/** What a Manager or its model tells from outside, of each group and each of its views. */
+/** What a Manager or its model reports of each group and each of its views. */
 template<typename AnyManager>
-QStringList told(AnyManager& manager, const std::function<int()>& live)
+QStringList reported(AnyManager& manager, const std::function<int()>& live)
 {
     QStringList result{"starts in "_s + manager.activeGroup() + " with "_s +
                        QString::number(live())};
@@ -226,7 +246,7 @@ void ReentryTableTest::callFromWithin()
                          QByteArray(first.name).startsWith("activateP") ||
                          QByteArray(second.name).startsWith("activateF") ||
                          QByteArray(second.name).startsWith("activateP");
-    // At each turn that the operation gives to others, until it gives no more.
+    // At each turn that there is during the operation, until there are no more.
     bool acted = true;
     for (int at = 1; acted; ++at) {
         Pair pair(merge);
@@ -238,13 +258,13 @@ void ReentryTableTest::callFromWithin()
             const Hooks hooks(pair, turn, modelTurn);
             first.toManager(pair);
             first.toModel(pair);
-            QCOMPARE(log.lines(), pair.model.log);
+            QCOMPARE(log.lines(), pair.modelLog);
         }
         QCOMPARE(turn.count, modelTurn.count);
         acted = turn.count >= at;
         const auto live = [&] { return int(pair.window.dockArea()); };
-        const auto modelLive = [&] { return pair.model.live; };
-        QCOMPARE(told(pair.manager, live), told(pair.model, modelLive));
+        const auto modelLive = [&] { return pair.model.live.number; };
+        QCOMPARE(reported(pair.manager, live), reported(pair.model, modelLive));
     }
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "support/LogLines.h"
+#include "support/MessageWatch.h"
 #include "support/Owner.h"
 #include "support/SignalLog.h"
 #include "support/SmallWindow.h"
@@ -62,7 +62,7 @@ void ManagerLeniencyTest::createView_data()
 void ManagerLeniencyTest::createView()
 {
     QFETCH(QString, name);
-    const LogLines log;
+    const MessageWatch watch(MessageWatch::Started);
     Manager manager(lines({"G"}), false);
     const SignalLog signalLog(manager);
     QCOMPARE(manager.createView(name), true);
@@ -70,7 +70,7 @@ void ManagerLeniencyTest::createView()
     QCOMPARE(manager.views(), QStringList{name});
     QCOMPARE(quoted(manager.activeView()), "null"_s);
     QCOMPARE(signalLog.lines(), lines({"groupModified()"}));
-    QCOMPARE(log.lines(), QStringList());
+    QCOMPARE(watch.messages(), QStringList());
 }
 
 void ManagerLeniencyTest::saveCurrentViewAs_data()
@@ -81,7 +81,7 @@ void ManagerLeniencyTest::saveCurrentViewAs_data()
 void ManagerLeniencyTest::saveCurrentViewAs()
 {
     QFETCH(QString, name);
-    const LogLines log;
+    const MessageWatch watch(MessageWatch::Started);
     Manager manager(lines({"G"}), false);
     SignalLog signalLog(manager);
     const QString activated = "viewActivated("_s + quoted(name) + ")"_s;
@@ -91,7 +91,7 @@ void ManagerLeniencyTest::saveCurrentViewAs()
     QCOMPARE(signalLog.take(), QStringList{activated});
     QCOMPARE(manager.views(), QStringList{name});
     QCOMPARE(quoted(manager.activeView()), quoted(name));
-    QCOMPARE(log.lines(), QStringList());
+    QCOMPARE(watch.messages(), QStringList());
 }
 
 void ManagerLeniencyTest::activateView_data()
@@ -102,7 +102,7 @@ void ManagerLeniencyTest::activateView_data()
 void ManagerLeniencyTest::activateView()
 {
     QFETCH(QString, name);
-    const LogLines log;
+    const MessageWatch watch(MessageWatch::Started);
     Manager manager(lines({"G"}), false);
     QVERIFY(manager.createView(name));
     const SignalLog signalLog(manager);
@@ -111,7 +111,7 @@ void ManagerLeniencyTest::activateView()
     QCOMPARE(manager.activateView(name), activated);
     QCOMPARE(quoted(manager.activeView()), activated ? quoted(name) : "null"_s);
     QCOMPARE(signalLog.lines().size(), activated ? 1 : 0);
-    QCOMPARE(log.lines(), QStringList());
+    QCOMPARE(watch.messages(), QStringList());
 }
 
 void ManagerLeniencyTest::deleteActiveView_data()
@@ -122,7 +122,7 @@ void ManagerLeniencyTest::deleteActiveView_data()
 void ManagerLeniencyTest::deleteActiveView()
 {
     QFETCH(QString, name);
-    const LogLines log;
+    const MessageWatch watch(MessageWatch::Started);
     Manager manager(lines({"G"}), false);
     QVERIFY(manager.createView("other"_s));
     QVERIFY(manager.saveCurrentViewAs(name));
@@ -130,7 +130,7 @@ void ManagerLeniencyTest::deleteActiveView()
     manager.deleteView(name);
     QCOMPARE(manager.views(), lines({"other"}));
     QCOMPARE(signalLog.lines(), lines({"viewActivated('')", "groupModified()"}));
-    QCOMPARE(log.lines(), QStringList());
+    QCOMPARE(watch.messages(), QStringList());
 }
 
 void ManagerLeniencyTest::groupName_data()
@@ -141,14 +141,14 @@ void ManagerLeniencyTest::groupName_data()
 void ManagerLeniencyTest::groupName()
 {
     QFETCH(QString, name);
-    const LogLines log;
+    const MessageWatch watch(MessageWatch::Started);
     Manager manager({"G"_s, name}, false);
     QCOMPARE(manager.groups(), (QStringList{"G"_s, name}));
     const SignalLog signalLog(manager);
     QCOMPARE(manager.activateGroup(name), true);
     QCOMPARE(quoted(manager.activeGroup()), quoted(name));
     QCOMPARE(signalLog.lines().first(), QString("groupActivated("_s + quoted(name) + ")"_s));
-    QCOMPARE(log.lines(), QStringList());
+    QCOMPARE(watch.messages(), QStringList());
 }
 
 void ManagerLeniencyTest::descriptorId_data()
@@ -159,7 +159,7 @@ void ManagerLeniencyTest::descriptorId_data()
 void ManagerLeniencyTest::descriptorId()
 {
     QFETCH(QString, name);
-    const LogLines log;
+    const MessageWatch watch(MessageWatch::Started);
     SmallWindow window;
     Owner owner({{name, &window}});
     Manager manager(lines({"G"}), false);
@@ -169,7 +169,7 @@ void ManagerLeniencyTest::descriptorId()
     QVERIFY(manager.activateView("left"_s));
     // Only a window without an id is not managed.
     QCOMPARE(window.dockArea(), name.isEmpty() ? Qt::RightDockWidgetArea : Qt::LeftDockWidgetArea);
-    QCOMPARE(log.lines(), QStringList());
+    QCOMPARE(watch.messages(), QStringList());
 }
 
 void ManagerLeniencyTest::currentViewIsNotTheViewOfItsName()

@@ -2,7 +2,7 @@
 #include "GroupAccess.h"
 #include "ManagerPrivate.h"
 
-#include "support/LogLines.h"
+#include "support/MessageWatch.h"
 #include "support/Owner.h"
 #include "support/SmallWindow.h"
 
@@ -119,11 +119,11 @@ void ManagerMergeTest::bytes()
     QFETCH(QByteArray, merged);
     Manager manager(lines({"G"}), true);
 
-    const LogLines log;
+    const MessageWatch watch(MessageWatch::Started);
     const StateMap result = mergeStates(manager, {{"w"_s, storedBlob}}, {{"w"_s, liveBlob}});
     QCOMPARE(result.keys(), lines({"w"}));
     QCOMPARE(result.value("w"_s).toHex(' '), merged.toHex(' '));
-    QCOMPARE(log.lines(), QStringList());
+    QCOMPARE(watch.messages(), QStringList());
 }
 
 void ManagerMergeTest::everyIdGetsAnEntry()
@@ -197,12 +197,12 @@ void ManagerMergeTest::brokenBlob()
     QFETCH(QByteArray, blob);
     Manager manager(lines({"G"}), true);
     manager.registerManagable(m_owner);
-    const LogLines log;
+    const MessageWatch watch(MessageWatch::Started);
     apply(manager, {{"w"_s, blob}});
     QCOMPARE(m_window.placed, 0);
     QCOMPARE(m_window.dockArea(), Qt::LeftDockWidgetArea);
     QCOMPARE(m_window.barArea(), Qt::TopToolBarArea);
-    QCOMPARE(log.lines(), QStringList());
+    QCOMPARE(watch.messages(), QStringList());
 }
 
 void ManagerMergeTest::blobBrokenInItsBars()

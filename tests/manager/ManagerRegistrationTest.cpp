@@ -39,7 +39,36 @@ private Q_SLOTS:
     void registeredLater();
     void createAppendsBeforeItAsks();
     void saveAppendsBeforeItAsks();
+    void windowWithoutAnIdIsNotTouched_data();
+    void windowWithoutAnIdIsNotTouched();
 };
+
+// Such an entry is not managed, so its window may be gone already.
+void ManagerRegistrationTest::windowWithoutAnIdIsNotTouched_data()
+{
+    QTest::addColumn<int>("owners");
+    QTest::newRow("one owner") << 1;
+    QTest::newRow("two owners") << 2;
+    QTest::newRow("three owners") << 3;
+}
+
+void ManagerRegistrationTest::windowWithoutAnIdIsNotTouched()
+{
+    QFETCH(int, owners);
+    auto* const gone = reinterpret_cast<QMainWindow*>(quintptr(8));
+    SmallWindow window;
+    Owner owner({{QString(), gone}, {""_s, gone}, {"w"_s, &window}});
+    Owner other;
+    Manager manager(lines({"G"}), /*mergeOnApply=*/true);
+    manager.registerManagable(owner);
+    for (int i = 1; i < owners; ++i)
+        manager.registerManagable(other);
+    QVERIFY(manager.saveCurrentViewAs("a"_s));
+    QVERIFY(manager.createView("b"_s));
+    QVERIFY(manager.activateView("b"_s));
+    QVERIFY(manager.viewsValid());
+    QCOMPARE(managedWindowsOf(manager).at(0).window, gone);
+}
 
 void ManagerRegistrationTest::asksNobodyAtRegistration()
 {

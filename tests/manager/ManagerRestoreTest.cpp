@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "GroupAccess.h"
 
-#include "support/LogLines.h"
+#include "support/MessageWatch.h"
 #include "support/Owner.h"
 #include "support/SmallWindow.h"
 
@@ -166,7 +166,7 @@ void ManagerRestoreTest::refusedBlob()
 {
     QFETCH(QByteArray, blob);
     QVERIFY(!SmallWindow().restoreState(blob, 0));
-    const LogLines log;
+    const MessageWatch watch(MessageWatch::Started);
     Manager manager(lines({"G"}), false);
     manager.registerManagable(m_owner);
     apply(manager, {{"1"_s, blob}, {"2"_s, rightState()}});
@@ -174,7 +174,7 @@ void ManagerRestoreTest::refusedBlob()
     QCOMPARE(m_first.barArea(), Qt::TopToolBarArea);
     // The windows after it get their layouts all the same.
     QCOMPARE(m_second.dockArea(), right);
-    QCOMPARE(log.lines(), QStringList());
+    QCOMPARE(watch.messages(), QStringList());
 }
 
 void ManagerRestoreTest::windowsShareAnId()

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "support/EditorWindow.h"
-#include "support/LogLines.h"
+#include "support/MessageWatch.h"
 #include "support/Owner.h"
+#include "support/SampleWindow.h"
 
 #include <panorel/Manager.h>
 
@@ -15,7 +15,7 @@ using namespace Panorel::Tests;
 
 namespace {
 
-QString placeOf(const EditorWindow& window, const QDockWidget& dock)
+QString placeOf(const SampleWindow& window, const QDockWidget& dock)
 {
     const QString area =
         dock.isFloating() ? "floating"_s
@@ -29,7 +29,7 @@ QString sizeOf(const QWidget& widget)
 }
 
 /** Where each dock widget is. */
-QStringList docksOf(const EditorWindow& window)
+QStringList docksOf(const SampleWindow& window)
 {
     QStringList result;
     for (const QDockWidget* dock : window.docks())
@@ -37,7 +37,7 @@ QStringList docksOf(const EditorWindow& window)
     return result;
 }
 
-QStringList dockSizesOf(const EditorWindow& window)
+QStringList dockSizesOf(const SampleWindow& window)
 {
     QStringList result;
     for (const QDockWidget* dock : window.docks())
@@ -46,7 +46,7 @@ QStringList dockSizesOf(const EditorWindow& window)
 }
 
 /** The visible tabs from first to last, the one on top in brackets. */
-QStringList tabsOf(const EditorWindow& window)
+QStringList tabsOf(const SampleWindow& window)
 {
     QStringList result;
     for (const QTabBar* tabs : window.findChildren<QTabBar*>()) {
@@ -59,7 +59,7 @@ QStringList tabsOf(const EditorWindow& window)
 }
 
 /** Where each tool bar is, whether it starts a line, and whether it is hidden. */
-QStringList barsOf(const EditorWindow& window)
+QStringList barsOf(const SampleWindow& window)
 {
     QStringList result;
     for (QToolBar* bar : window.bars())
@@ -93,8 +93,8 @@ private Q_SLOTS:
 private:
     void rearrange();
 
-    std::unique_ptr<LogLines> m_log;
-    std::unique_ptr<EditorWindow> m_window;
+    std::unique_ptr<MessageWatch> m_watch;
+    std::unique_ptr<SampleWindow> m_window;
     std::unique_ptr<Owner> m_owner;
     std::unique_ptr<Manager> m_manager;
 };
@@ -110,8 +110,8 @@ void ManagerSwitchTest::initTestCase_data()
 void ManagerSwitchTest::init()
 {
     QFETCH_GLOBAL(bool, merge);
-    m_log = std::make_unique<LogLines>();
-    m_window = std::make_unique<EditorWindow>();
+    m_watch = std::make_unique<MessageWatch>(MessageWatch::Started);
+    m_window = std::make_unique<SampleWindow>();
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
     m_owner = std::make_unique<Owner>(QList<ManagedWindow>{{"editor"_s, m_window.get()}});
@@ -125,8 +125,8 @@ void ManagerSwitchTest::cleanup()
     m_manager.reset();
     m_owner.reset();
     m_window.reset();
-    QCOMPARE(m_log->lines(), QStringList());
-    m_log.reset();
+    QCOMPARE(m_watch->messages(), QStringList());
+    m_watch.reset();
     QCOMPARE(QApplication::topLevelWidgets().size(), 0);
 }
 
@@ -236,7 +236,7 @@ void ManagerSwitchTest::hiddenDockIsHiddenAgain()
 
 void ManagerSwitchTest::twoWindows()
 {
-    EditorWindow other;
+    SampleWindow other;
     other.rearrangeDocks();
     m_owner->windows.append({"other"_s, &other});
     QVERIFY(m_manager->createView("both"_s));

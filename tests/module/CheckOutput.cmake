@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Runs a program and compares what it prints with a file, to the byte:
 # cmake -D PROGRAM=... [-D ARGUMENTS=...] -D EXPECTED=... -P this
-cmake_minimum_required(VERSION 3.25)
+cmake_minimum_required(VERSION 3.22)
 
 execute_process(
     COMMAND "${PROGRAM}" ${ARGUMENTS}

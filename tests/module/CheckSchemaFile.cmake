@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # The schema's line ends are content, and version control must not change them:
 # cmake -D SOURCE=<source tree> -P this
-cmake_minimum_required(VERSION 3.25)
+cmake_minimum_required(VERSION 3.22)
 
 set(schema "${SOURCE}/resources/ViewSettingsXsdSchema")
 file(SIZE "${schema}" size)

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # What a built library exports: cmake -D NM=... -D LIBRARY=... -P this
-cmake_minimum_required(VERSION 3.25)
+cmake_minimum_required(VERSION 3.22)
 
 execute_process(
     COMMAND "${NM}" --dynamic --defined-only "${LIBRARY}"

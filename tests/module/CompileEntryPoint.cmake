@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Compiles the entry point for Windows and looks for it in what comes out:
 # cmake -D COMPILER=... -D SOURCE=... -D DECLARATIONS=... -D OBJECT=... -D REQUIRED=... -P this
-cmake_minimum_required(VERSION 3.25)
+cmake_minimum_required(VERSION 3.22)
 
 if(NOT COMPILER)
     if(REQUIRED)

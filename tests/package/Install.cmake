@@ -16,7 +16,7 @@ execute_process(COMMAND "${CMAKE_COMMAND}" --install "${BUILD_DIR}" --prefix "${
     COMMAND_ERROR_IS_FATAL ANY)
 
 file(GLOB_RECURSE expected RELATIVE "${SOURCE_DIR}/include" "${SOURCE_DIR}/include/*")
-list(APPEND expected panorel/PanorelExport.h)
+list(APPEND expected panorel/PanorelExport.h panorel/kit/PanorelKitExport.h)
 list(SORT expected)
 file(GLOB_RECURSE installed RELATIVE "${INCLUDE_DIR}" "${INCLUDE_DIR}/*")
 list(SORT installed)

@@ -68,4 +68,23 @@ if(UNIX AND PANOREL_PYTHON)
     panorel_add_package_test(recipes COMMAND "${PANOREL_PYTHON}"
         "${CMAKE_CURRENT_SOURCE_DIR}/check-recipes" "${CMAKE_COMMAND}" "${PROJECT_SOURCE_DIR}"
         "${PROJECT_VERSION}" "${work}/recipes")
+    panorel_add_package_test(cmakeVersion COMMAND "${PANOREL_PYTHON}"
+        "${CMAKE_CURRENT_SOURCE_DIR}/check-cmake-version" "${CMAKE_COMMAND}" "${PROJECT_SOURCE_DIR}")
+endif()
+
+find_package(Qt5LinguistTools 5.15 QUIET)
+if(TARGET Qt5::lrelease)
+    set(options -G "${CMAKE_GENERATOR}"
+        "-DCMAKE_MAKE_PROGRAM=${CMAKE_MAKE_PROGRAM}"
+        "-DCMAKE_CXX_COMPILER=${CMAKE_CXX_COMPILER}"
+        "-DQt5_DIR=${Qt5_DIR}")
+    # One argument.
+    list(JOIN options "\\;" options)
+    get_target_property(lrelease Qt5::lrelease IMPORTED_LOCATION)
+    panorel_add_package_test(options COMMAND "${CMAKE_COMMAND}"
+        "-DSOURCE=${PROJECT_SOURCE_DIR}"
+        "-DWORK=${work}/options"
+        "-DLRELEASE=${lrelease}"
+        "-DOPTIONS=${options}"
+        -P "${CMAKE_CURRENT_SOURCE_DIR}/CheckOptions.cmake")
 endif()

@@ -11,13 +11,14 @@ foreach(directory IN LISTS qt_directories)
 endforeach()
 
 # Every public header compiles alone, whether or not the user has Qt's keywords.
-file(GLOB headers CONFIGURE_DEPENDS RELATIVE "${PROJECT_SOURCE_DIR}/include"
+file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE "${PROJECT_SOURCE_DIR}/include"
     "${PROJECT_SOURCE_DIR}/include/panorel/*.h")
 if(NOT headers)
     message(FATAL_ERROR "No public headers found")
 endif()
 foreach(header IN LISTS headers)
-    get_filename_component(name "${header}" NAME_WE)
+    string(REGEX REPLACE "^panorel/(.*)\\.h$" "\\1" name "${header}")
+    string(REPLACE "/" "." name "${name}")
     set(source "${CMAKE_CURRENT_BINARY_DIR}/headers/${name}.cpp")
     file(CONFIGURE OUTPUT "${source}" CONTENT "#include <${header}>\n#include <${header}>\n")
     panorel_add_package_test(header.${name}.withKeywords COMMAND ${compile} "${source}")

@@ -3,7 +3,7 @@
 # builds a program with the installed package:
 # cmake -D SOURCE=<source tree> -D FOLDER=<scratch folder> -D "OPTIONS=<options of the outer build>"
 #     -D "PREFIX_PATH=<its CMAKE_PREFIX_PATH>" -P this
-cmake_minimum_required(VERSION 3.25)
+cmake_minimum_required(VERSION 3.22)
 
 set(here "${CMAKE_CURRENT_LIST_DIR}")
 file(REMOVE_RECURSE "${FOLDER}")
@@ -33,7 +33,9 @@ set(application "${FOLDER}/prefix/application")
 set(panorel "${FOLDER}/prefix/panorel")
 configure("${here}/application" application "${PREFIX_PATH}")
 build_and_install(application "${application}")
-configure("${SOURCE}" panorel "${application};${PREFIX_PATH}" -DBUILD_TESTING=OFF)
+configure("${SOURCE}" panorel "${application};${PREFIX_PATH}"
+    -DBUILD_TESTING=OFF -DPANOREL_BUILD_STARTUP=OFF -DPANOREL_BUILD_TRANSLATIONS=OFF
+    -DPANOREL_BUILD_KIT=OFF)
 build_and_install(panorel "${panorel}")
 file(GLOB_RECURSE substitutes "${FOLDER}/panorel/*TumoAppStartUp.*" "${panorel}/*TumoAppStartUp.*")
 if(substitutes)

@@ -12,7 +12,7 @@
 namespace Panorel::Tests {
 
 /**
- * Counts announced with little or nothing behind them are refused without room being made for them:
+ * Counts announced with little or nothing after them are refused without reserving memory for them:
  * the process could not have it.
  */
 class QtStateCountTest : public QObject

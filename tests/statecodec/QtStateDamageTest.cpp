@@ -15,7 +15,7 @@ namespace Panorel::Tests {
 
 /**
  * Recorded blobs cut off anywhere, with any byte changed, left out or doubled: each is read or
- * refused exactly as by the reference reader, and leaves the same behind.
+ * refused exactly as by the reference reader, and leaves the same fields.
  */
 class QtStateDamageTest : public QObject
 {

@@ -132,7 +132,7 @@ void QtStateRecordedTest::floatingTabGroupEndsTheReading_data()
 }
 
 // The group's marker 0xF9 is no section's. The dock areas stand before it and stay; the tool bars
-// stand behind it and are lost.
+// follow it and are lost.
 void QtStateRecordedTest::floatingTabGroupEndsTheReading()
 {
     QFETCH(QString, fileName);

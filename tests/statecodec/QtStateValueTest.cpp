@@ -39,6 +39,7 @@ private Q_SLOTS:
     void itemCopyAssignment();
     void itemSelfAssignment();
     void itemAssignedFromItsOwnDescendant();
+    void blockAssignedFromItsOwnDescendant();
     void itemMove();
     void itemsAreMovedWhenAListGrows();
     void partsAreAssignable();
@@ -83,7 +84,7 @@ QByteArray fullBlob()
 template<auto value, typename Type>
 constexpr bool isConstant = std::is_same_v<decltype(value), Type>;
 
-/** Whether the fields stand in @p whole one behind the other, the first of them at its beginning.
+/** Whether the fields are in @p whole one after the other, the first of them at its beginning.
  */
 template<typename Whole, typename... Fields>
 bool areInOrder(const Whole& whole, const Fields&... fields)
@@ -334,6 +335,24 @@ void QtStateValueTest::itemAssignedFromItsOwnDescendant()
     item = std::move(item.subBlock->items[0]);
     QVERIFY(!item.subBlock);
     QVERIFY(item.objectName.isNull());
+}
+
+void QtStateValueTest::blockAssignedFromItsOwnDescendant()
+{
+    Block block;
+    block.items.push_back(nestedItem());
+    block.items.push_back(nestedItem());
+    const Block inner(*block.items[0].subBlock);
+    QVERIFY(inner.items.size() > 1);
+    Block moved(block);
+
+    block = *block.items[0].subBlock;
+    QCOMPARE(difference(block, inner), QString());
+    moved = std::move(*moved.items[0].subBlock);
+    QCOMPARE(difference(moved, inner), QString());
+    const Block& alias = block;
+    block = alias;
+    QCOMPARE(difference(block, inner), QString());
 }
 
 void QtStateValueTest::itemMove()

@@ -62,7 +62,7 @@ public:
 
     BlobBuilder& dockSection(qint32 dockCount) { return byte(0xFD).int32(dockCount); }
 
-    /** What stands before the block of a dock record. */
+    /** What precedes the block of a dock record. */
     BlobBuilder& dock(qint32 area, qint32 width, qint32 height)
     {
         return ints({area, width, height});
@@ -83,7 +83,7 @@ public:
         return byte(0xFB).name(objectName).byte(flags).ints(values);
     }
 
-    /** What stands before the block of a nested item. */
+    /** What precedes the block of a nested item. */
     BlobBuilder& nested(Ints values = {0, 0, 0, 0}) { return byte(0xFC).ints(values); }
 
     /** Ends a dock-area section: size of the central widget, then the four corners. */

@@ -12,10 +12,16 @@
 namespace Panorel::Tests {
 
 /**
- * Catches every Qt message between start() and finish(), so that a test can demand silence:
+ * Catches every Qt message between start() and finish(), so that a test can require silence:
  *
  *     void init() { m_watch.start(); }
  *     void cleanup() { QCOMPARE(m_watch.finish(), QStringList()); }
+ *
+ * or during a part of a test:
+ *
+ *     const MessageWatch watch(MessageWatch::Started);
+ *     ...
+ *     QCOMPARE(watch.messages(), QStringList());
  *
  * One watch at a time; messages of other threads are not expected. What Qt's platforms say of
  * windows is left out.
@@ -23,6 +29,17 @@ namespace Panorel::Tests {
 class MessageWatch
 {
 public:
+    enum Start { Later, Started };
+
+    explicit MessageWatch(Start start = Later)
+    {
+        if (start == Started)
+            this->start();
+    }
+    ~MessageWatch() { finish(); }
+    MessageWatch(const MessageWatch&) = delete;
+    MessageWatch& operator=(const MessageWatch&) = delete;
+
     void start()
     {
         s_messages.clear();
@@ -32,14 +49,14 @@ public:
     /** The messages that came, oldest first. */
     QStringList finish()
     {
-        // Not when init() failed before it began.
+        // Not without a start, such as when init() failed before it.
         if (m_previous)
             qInstallMessageHandler(std::exchange(m_previous, nullptr));
         return std::exchange(s_messages, QStringList());
     }
 
-protected:
-    static QStringList messages() { return s_messages; }
+    /** Those so far. */
+    QStringList messages() const { return s_messages; }
 
 private:
     static void keep(QtMsgType, const QMessageLogContext& context, const QString& message)

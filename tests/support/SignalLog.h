@@ -45,7 +45,7 @@ public:
     }
 
     QStringList lines() const { return m_lines; }
-    /** The lines so far; the log starts anew. */
+    /** The lines so far; the log starts again. */
     QStringList take() { return std::exchange(m_lines, QStringList()); }
 
 private:

@@ -15,7 +15,7 @@ struct Message
     /** What Linguist says of it: "unfinished", "vanished" and the like; empty when it is done. */
     QString state;
 
-    /** Context and source, which tell the text from all others. */
+    /** Context and source, which identify the text. */
     QString key() const;
 };
 

@@ -22,7 +22,7 @@ QString withoutLatinParts(QString text)
 
 QVector<QChar::Script> scriptsOf(const QString& language)
 {
-    static const QHash<QString, QVector<QChar::Script>> others{
+    static const QHash<QString, QVector<QChar::Script>> notLatin{
         {QStringLiteral("ar"), {QChar::Script_Arabic}},
         {QStringLiteral("el"), {QChar::Script_Greek}},
         {QStringLiteral("he"), {QChar::Script_Hebrew}},
@@ -33,7 +33,51 @@ QVector<QChar::Script> scriptsOf(const QString& language)
         {QStringLiteral("zh_CN"), {QChar::Script_Han}},
         {QStringLiteral("zh_TW"), {QChar::Script_Han}},
     };
-    return others.value(language, {QChar::Script_Latin});
+    return notLatin.value(language, {QChar::Script_Latin});
+}
+
+// How a language's word for "layout" is recognised, whatever its ending.
+QRegularExpression layoutWord(const QString& language)
+{
+    static const QHash<QString, QString> stems{
+        {QStringLiteral("ar"), QStringLiteral("تخطيط")},
+        {QStringLiteral("ca"), QStringLiteral("disposici")},
+        {QStringLiteral("cs"), QStringLiteral("rozložení")},
+        {QStringLiteral("da"), QStringLiteral("layout")},
+        {QStringLiteral("de"), QStringLiteral("fensterlayout")},
+        {QStringLiteral("el"), QStringLiteral("διάταξ|διατάξ")},
+        {QStringLiteral("es"), QStringLiteral("disposici")},
+        {QStringLiteral("fi"), QStringLiteral("asettelu")},
+        {QStringLiteral("fr"), QStringLiteral("disposition")},
+        {QStringLiteral("he"), QStringLiteral("פריס")},
+        {QStringLiteral("hu"), QStringLiteral("elrendezés")},
+        {QStringLiteral("it"), QStringLiteral("layout")},
+        {QStringLiteral("ja"), QStringLiteral("レイアウト")},
+        {QStringLiteral("ko"), QStringLiteral("레이아웃")},
+        {QStringLiteral("nb"), QStringLiteral("oppsett")},
+        {QStringLiteral("nl"), QStringLiteral("indeling")},
+        {QStringLiteral("pl"), QStringLiteral("układ")},
+        {QStringLiteral("pt"), QStringLiteral("disposiç")},
+        {QStringLiteral("pt_BR"), QStringLiteral("layout")},
+        {QStringLiteral("ro"), QStringLiteral("aranjament")},
+        {QStringLiteral("ru"), QStringLiteral("компонов")},
+        {QStringLiteral("sk"), QStringLiteral("rozložen")},
+        {QStringLiteral("sv"), QStringLiteral("layout")},
+        {QStringLiteral("tr"), QStringLiteral("yerleşim")},
+        {QStringLiteral("uk"), QStringLiteral("компонуван")},
+        {QStringLiteral("zh_CN"), QStringLiteral("布局")},
+        {QStringLiteral("zh_TW"), QStringLiteral("版面配置")},
+    };
+    // A language without an entry matches nothing.
+    const QString stem = stems.value(language, QStringLiteral("(?!)"));
+    return QRegularExpression(stem, QRegularExpression::CaseInsensitiveOption);
+}
+
+// Whether the English text, or what it stands for, is about layouts.
+bool saysLayout(const QString& source)
+{
+    return source.contains(QLatin1String("layout"), Qt::CaseInsensitive) ||
+           source.startsWith(QLatin1String("View File"));
 }
 
 // The patterns of a file filter, whose words may be anything without a parenthesis.
@@ -88,6 +132,10 @@ private Q_SLOTS:
     void keepsEnding();
     void keepsMnemonic_data() { addMessages(); }
     void keepsMnemonic();
+    void saysAndInWords_data() { addLanguages(); }
+    void saysAndInWords();
+    void hasOneWordForLayout_data() { addMessages(); }
+    void hasOneWordForLayout();
     void keepsFileFilter_data() { addLanguages(); }
     void keepsFileFilter();
     void usesItsScript_data() { addMessages(); }
@@ -238,19 +286,39 @@ void CatalogueTest::keepsEnding()
     QVERIFY(!translation.contains(QChar(0x2026)));
 }
 
+// An "&" is a mnemonic, with a letter that each language chooses, and nothing else.
 void CatalogueTest::keepsMnemonic()
 {
     QFETCH(QString, source);
     QFETCH(QString, translation);
-    QCOMPARE(translation.count(QLatin1Char('&')), source.count(QLatin1Char('&')));
-    const QKeySequence wanted = QKeySequence::mnemonic(source);
-    const QKeySequence mnemonic = QKeySequence::mnemonic(translation);
-    // Each language has a letter of its own; "Import & Merge ..." has no letter but the blank.
-    QCOMPARE(isLetterMnemonic(mnemonic), isLetterMnemonic(wanted));
-    if (!isLetterMnemonic(wanted)) {
-        QCOMPARE(mnemonic, wanted);
-        QCOMPARE(translation.count(QStringLiteral(" & ")), source.count(QStringLiteral(" & ")));
-    }
+    const bool hasMnemonic = isLetterMnemonic(QKeySequence::mnemonic(source));
+    QCOMPARE(isLetterMnemonic(QKeySequence::mnemonic(translation)), hasMnemonic);
+    QCOMPARE(translation.count(QLatin1Char('&')), hasMnemonic ? 1 : 0);
+    QVERIFY(!translation.contains(QLatin1Char('_')));
+}
+
+// Qt would show the "&" of the English text as an underlined blank.
+void CatalogueTest::saysAndInWords()
+{
+    QFETCH(QString, language);
+    const QString context = QStringLiteral("Panorel::Menu");
+    const Catalogue catalogue = Catalogue::read(catalogueFile(language));
+    const QString import = catalogue.translation(context, QStringLiteral("Import ...")).chopped(4);
+    const QString merge = catalogue.translation(context, QStringLiteral("Import & Merge ..."));
+    QVERIFY2(merge.startsWith(import), qPrintable(merge));
+    QVERIFY(merge.chopped(4).size() > import.size() + 1);
+}
+
+void CatalogueTest::hasOneWordForLayout()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, source);
+    QFETCH(QString, translation);
+    // Japanese says "back to the initial settings", and no more.
+    if (language == QLatin1String("ja") && source.startsWith(QLatin1String("Reset")))
+        QVERIFY(!translation.contains(layoutWord(language)));
+    else
+        QCOMPARE(translation.contains(layoutWord(language)), saysLayout(source));
 }
 
 void CatalogueTest::keepsFileFilter()

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "support/MenuReading.h"
 #include "support/Owner.h"
 #include "support/SignalLog.h"
 #include "support/SmallWindow.h"
 #include "support/Text.h"
 #include "ui/Hands.h"
-#include "ui/MenuReading.h"
 
 #include <panorel/Manager.h>
 #include <panorel/Menu.h>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/MenuFileFixture.h"
 
+#include "support/MenuReading.h"
 #include "support/Text.h"
 #include "ui/Hands.h"
-#include "ui/MenuReading.h"
 
 #include <QFile>
 #include <QtTest>

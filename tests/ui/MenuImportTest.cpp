@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "support/MenuReading.h"
 #include "support/Text.h"
 #include "ui/MenuFileFixture.h"
-#include "ui/MenuReading.h"
 
 #include <QFileDialog>
+#include <QTextCodec>
 #include <QtTest>
 
 using namespace Panorel;
@@ -24,6 +25,16 @@ private Q_SLOTS:
     void importedAgain();
 };
 
+namespace {
+
+QByteArray utf16(QByteArray document)
+{
+    document.replace("encoding=\"UTF-8\"", "encoding=\"UTF-16\"");
+    return QTextCodec::codecForName("UTF-16")->fromUnicode(QString::fromUtf8(document));
+}
+
+} // namespace
+
 void MenuImportTest::imported_data()
 {
     QTest::addColumn<QByteArray>("entryText");
@@ -43,6 +54,10 @@ void MenuImportTest::imported_data()
     QByteArray lineEnds = documentWith("x");
     lineEnds.replace("\n", "\r\n");
     QTest::newRow("CR LF") << import << lineEnds << lines({"own", "x"}) << QString();
+    // Half of each line end goes, and the characters after it are torn apart: nothing is imported.
+    QTest::newRow("CR LF in UTF-16") << import << utf16(lineEnds) << lines({"own", "n"}) << "own"_s;
+    QTest::newRow("LF in UTF-16") << import << utf16(documentWith("x")) << lines({"own", "x"})
+                                  << QString();
     const QByteArray marked =
         documentWith("x").replace("<View Name=\"x\"", "<View Active=\"1\" Name=\"x\"");
     QTest::newRow("marked") << import << marked << lines({"own", "x"}) << "x"_s;

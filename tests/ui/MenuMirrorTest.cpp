@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "support/MenuReading.h"
 #include "support/Text.h"
-#include "ui/MenuReading.h"
 
 #include <panorel/Manager.h>
 #include <panorel/Menu.h>
@@ -55,7 +55,7 @@ struct ModelGroup
         if (!name.isEmpty() && views.contains(name))
             active = name;
     }
-    // To the view behind the marked one, around the end; without a mark to the first.
+    // To the view after the marked one, around the end; without a mark to the first.
     void toggle()
     {
         const int marked = active.isEmpty() ? -1 : views.indexOf(active);

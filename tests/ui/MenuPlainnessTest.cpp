@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "support/MenuReading.h"
 #include "support/Text.h"
 #include "ui/Differences.h"
-#include "ui/MenuReading.h"
 
 #include <panorel/Manager.h>
 #include <panorel/Menu.h>

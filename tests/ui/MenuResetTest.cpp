@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "support/MenuReading.h"
 #include "support/SignalLog.h"
 #include "support/Text.h"
-#include "ui/MenuReading.h"
 
 #include <panorel/Manager.h>
 #include <panorel/Menu.h>
@@ -138,7 +138,7 @@ void MenuResetTest::resetThatFails()
     Manager manager({"G"_s}, false);
     QVERIFY(manager.createView("own"_s));
     const Menu menu(&manager, true, nullptr);
-    // Enabled by the signal alone: the Manager has no document, and nobody is told.
+    // Enabled by the signal alone: the Manager has no document, and reports nothing.
     Q_EMIT manager.programStartViewChanged(true);
     Q_EMIT manager.factoryDefaultViewChanged(true);
     const QStringList before = entries(menu);

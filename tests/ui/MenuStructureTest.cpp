@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "support/MenuReading.h"
 #include "support/Text.h"
-#include "ui/MenuReading.h"
 
 #include <panorel/Manager.h>
 #include <panorel/Menu.h>

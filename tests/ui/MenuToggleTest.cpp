@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "support/MenuReading.h"
 #include "support/SignalLog.h"
 #include "support/Text.h"
-#include "ui/MenuReading.h"
 #include "ui/ReportedUserData.h"
 
 #include <panorel/Manager.h>
@@ -40,7 +40,7 @@ namespace {
 
 /**
  * Views "a", "b", "c" and so on, written as one character each: a letter for a plain one, "-" for a
- * skipped one; the place of the checked one is told apart.
+ * skipped one; the place of the checked one is distinguished.
  */
 QString nameAt(int index)
 {
@@ -68,12 +68,12 @@ QStringList signalsOfToggling(const QString& views, int checked)
     return signalLog.take();
 }
 
-// The views behind the checked one, then those before it; without a checked one, all in order.
+// The views after the checked one, then those before it; without a checked one, all in order.
 QStringList expectedSignals(const QString& views, int checked)
 {
     const int count = views.size();
-    const int others = checked < 0 ? count : count - 1;
-    for (int step = 1; step <= others; ++step) {
+    const int uncheckedCount = checked < 0 ? count : count - 1;
+    for (int step = 1; step <= uncheckedCount; ++step) {
         const int index = (checked + step) % count;
         if (views.at(index) != QLatin1Char('-'))
             return QStringList("viewActivated("_s + quoted(nameAt(index)) + ")"_s);
@@ -247,7 +247,7 @@ void MenuToggleTest::look()
     QCOMPARE(skipped->font().style(), QFont::StyleItalic);
     QCOMPARE(plain->text(), "plain"_s);
     QCOMPARE(plain->font().style(), QFont::StyleNormal);
-    // But for the style it is the font of the others.
+    // The style may change it; otherwise it is the font of the other entries.
     QFont upright = skipped->font();
     upright.setStyle(QFont::StyleNormal);
     QCOMPARE(upright, plain->font());

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "NameDialog.h"
 
+#include "support/MenuReading.h"
 #include "support/Text.h"
 #include "ui/FileDialogUser.h"
-#include "ui/MenuReading.h"
 #include "ui/ReportedUserData.h"
 
 #include <panorel/Manager.h>

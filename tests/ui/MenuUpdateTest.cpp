@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "support/MenuReading.h"
 #include "support/Text.h"
-#include "ui/MenuReading.h"
 
 #include <panorel/Manager.h>
 #include <panorel/Menu.h>
@@ -79,7 +79,7 @@ void MenuUpdateTest::rebuiltBy()
 {
     QFETCH(Change, change);
 
-    // Behind the menu's back, so that only the signal under test can tell.
+    // Not through the menu, so that only the signal under test can tell.
     m_manager->blockSignals(true);
     m_manager->deleteView("a"_s);
     QVERIFY(m_manager->saveCurrentViewAs("new"_s));

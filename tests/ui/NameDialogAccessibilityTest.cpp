@@ -13,7 +13,7 @@
 using namespace Panorel;
 using namespace Panorel::Tests;
 
-/** What a screen reader is told of the name dialog. */
+/** What a screen reader learns about the name dialog. */
 class NameDialogAccessibilityTest : public QObject
 {
     Q_OBJECT

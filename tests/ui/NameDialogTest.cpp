@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QMetaMethod>
 #include <QPushButton>
+#include <QTranslator>
 #include <QtTest>
 
 #include <algorithm>
@@ -54,6 +55,7 @@ private Q_SLOTS:
     void checked_data();
     void checked();
     void checkedAtEveryKey();
+    void checkedWhateverTheMessageIs();
     void activeViewOfTheMoment();
     void lookOfAnError();
     void errorIsReadable_data();
@@ -108,7 +110,7 @@ bool NameDialogTest::show()
     return QTest::qWaitForWindowActive(m_dialog.get());
 }
 
-// What is behind the text is taken from the picture. The text's colour is not: a machine without
+// The text's background is taken from the picture. The text's colour is not: a machine without
 // fonts draws none.
 double NameDialogTest::messageContrast() const
 {
@@ -227,6 +229,40 @@ void NameDialogTest::checkedAtEveryKey()
     Hands::press(Qt::Key_Backspace);
     messages.append(message()->text());
     QCOMPARE(messages, lines({"", "", "", "", "Name already in use!", "", "Name already in use!"}));
+}
+
+namespace {
+
+class EmptyTranslator : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char* context, const char* sourceText, const char* disambiguation,
+                      int n) const override
+    {
+        Q_UNUSED(context)
+        Q_UNUSED(sourceText)
+        Q_UNUSED(disambiguation)
+        Q_UNUSED(n)
+        return ""_s;
+    }
+};
+
+} // namespace
+
+void NameDialogTest::checkedWhateverTheMessageIs()
+{
+    EmptyTranslator translator;
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    open(m_manager->views(), false);
+    QCOMPARE(message()->text(), QString());
+    QVERIFY(!button(QDialogButtonBox::Ok)->isEnabled());
+    QVERIFY(!message()->styleSheet().isEmpty());
+    edit()->setText("other"_s);
+    QVERIFY(!button(QDialogButtonBox::Ok)->isEnabled());
+    edit()->setText("new"_s);
+    QVERIFY(button(QDialogButtonBox::Ok)->isEnabled());
+    QVERIFY(message()->styleSheet().isEmpty());
 }
 
 void NameDialogTest::activeViewOfTheMoment()

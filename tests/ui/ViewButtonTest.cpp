@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "support/MenuReading.h"
 #include "support/SignalLog.h"
 #include "support/Text.h"
 #include "ui/Differences.h"
 #include "ui/Hands.h"
-#include "ui/MenuReading.h"
 #include "ui/ReportedUserData.h"
 
 #include <panorel/Manager.h>
@@ -34,6 +34,7 @@ private Q_SLOTS:
     void nothingElseIsSet();
     void menuDiesWithTheButton();
     void clickToggles();
+    void pressDoesNotToggle();
     void clickWithoutViews();
     void clickWithOneActiveView();
     void clickWithSkippedViewsOnly();
@@ -160,6 +161,21 @@ void ViewButtonTest::clickToggles()
     QCOMPARE(signalLog.take(),
              lines({"viewActivated('a')", "viewActivated('b')", "viewActivated('a')"}));
     QCOMPARE(entries(*m_button->menu()).mid(0, 2), lines({"* a", "b"}));
+}
+
+// Whoever presses by mistake moves away before the release.
+void ViewButtonTest::pressDoesNotToggle()
+{
+    QVERIFY(m_manager->createView("a"_s));
+    QVERIFY(m_manager->createView("b"_s));
+    QVERIFY(show());
+    const QPoint place = inControl(*m_button, QStyle::SC_ToolButton);
+    QTest::mousePress(m_button, Qt::LeftButton, Qt::NoModifier, place);
+    QCOMPARE(m_manager->activeView(), QString());
+    QTest::mouseRelease(m_button, Qt::LeftButton, Qt::NoModifier, QPoint(-10, -10));
+    QCOMPARE(m_manager->activeView(), QString());
+    QTest::mouseClick(m_button, Qt::LeftButton, Qt::NoModifier, place);
+    QCOMPARE(m_manager->activeView(), "a"_s);
 }
 
 void ViewButtonTest::clickWithoutViews()

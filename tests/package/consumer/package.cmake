@@ -27,4 +27,10 @@ if(NOT ours)
     message(FATAL_ERROR "Another Panorel was found: ${Panorel_DIR}")
 endif()
 
-find_package(Panorel CONFIG REQUIRED)
+# Nothing of the second library is there until it is asked for.
+if(TARGET Panorel::Kit)
+    message(FATAL_ERROR "Panorel::Kit is there without the component Kit")
+endif()
+find_package(Panorel CONFIG QUIET COMPONENTS Kit Other)
+expect_equal("Panorel with an unknown component found" "${Panorel_FOUND}" 0)
+find_package(Panorel CONFIG REQUIRED COMPONENTS Kit)

@@ -17,8 +17,9 @@ endfunction()
 
 collect("${PANOREL_SOURCE_DIR}" targets tests)
 # What the library is made of; its tests and examples are not for the consumer.
-list(REMOVE_ITEM targets Panorel PanorelResources PanorelTranslations TumoAppStartUp)
+list(REMOVE_ITEM targets Panorel PanorelKit PanorelResources PanorelTranslations TumoAppStartUp)
 expect_equal("More targets" "${targets}" "")
 expect_equal("Tests" "${tests}" "")
 get_directory_property(testing DIRECTORY "${PANOREL_SOURCE_DIR}" DEFINITION CMAKE_TESTING_ENABLED)
 expect_equal("Testing enabled" "${testing}" "")
+expect_equal("Installation" "${PANOREL_INSTALL}" OFF)

@@ -1,0 +1,2 @@
+// SPDX-License-Identifier: MIT
+// CMake makes precompiled headers for a target with sources only.
