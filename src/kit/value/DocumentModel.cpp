@@ -121,6 +121,15 @@ DocumentModel::DocumentModel(const QByteArray& data)
         DocumentReader(*this).read();
 }
 
+DocumentModel DocumentModel::ofAccepted(const QByteArray& bytes)
+{
+    DocumentModel model;
+    model.bytes = bytes;
+    model.isReadable = true;
+    DocumentReader(model).read();
+    return model;
+}
+
 QVector<const DocumentGroup*> DocumentModel::groupsNamed(const QString& name) const
 {
     QVector<const DocumentGroup*> found;

@@ -49,6 +49,9 @@ struct DocumentModel : QSharedData
     DocumentModel() = default;
     /** Reads @p bytes if a Manager accepts them. */
     explicit DocumentModel(const QByteArray& bytes);
+    /** Reads bytes that a Manager has written or accepted, without asking one again, which takes
+        most of the time. Of other bytes as much is read as is there. */
+    static DocumentModel ofAccepted(const QByteArray& bytes);
 
     QByteArray bytes;
     bool isReadable = false;

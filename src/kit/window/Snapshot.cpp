@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Snapshot.h"
 
-#include <QXmlStreamReader>
+#include "../value/DocumentModel.h"
+
 #include <QXmlStreamWriter>
 
 #include <algorithm>
@@ -10,48 +11,17 @@ namespace Panorel::Kit::Detail {
 
 namespace {
 
-QString attribute(const QXmlStreamReader& reader, const char* name)
+StateMap statesOf(const QVector<DocumentState>& elements)
 {
-    return reader.attributes().value(QLatin1String(name)).toString();
+    DocumentView view;
+    view.states = elements;
+    return readView({&view}).states;
 }
 
-// Like a Manager: an empty state is none, and the last of an id counts.
-void readState(QXmlStreamReader& reader, StateMap& states)
+Snapshot::View viewOf(const DocumentView& element)
 {
-    const QString id = attribute(reader, "DescriptorId");
-    const QByteArray state = QByteArray::fromHex(reader.readElementText().toLatin1());
-    if (!state.isEmpty())
-        states.insert(id, state);
-}
-
-Snapshot::View readView(QXmlStreamReader& reader)
-{
-    Snapshot::View view;
-    view.name = attribute(reader, "Name");
-    const QString active = attribute(reader, "Active");
-    view.isActive = active == QLatin1String("true") || active == QLatin1String("1");
-    while (reader.readNextStartElement()) {
-        if (reader.name() == QLatin1String("State"))
-            readState(reader, view.states);
-        else
-            view.userData = reader.readElementText();
-    }
-    return view;
-}
-
-Snapshot::Group readGroup(QXmlStreamReader& reader)
-{
-    Snapshot::Group group;
-    group.name = attribute(reader, "Name");
-    while (reader.readNextStartElement()) {
-        if (reader.name() == QLatin1String("CurrentView")) {
-            group.current = readView(reader);
-            continue;
-        }
-        while (reader.readNextStartElement())
-            group.views.append(readView(reader));
-    }
-    return group;
+    const LayoutDocument::View view = readView({&element});
+    return {view.name, element.isMarked, view.states, view.userData};
 }
 
 void writeStates(QXmlStreamWriter& writer, const char* element, const StateMap& states)
@@ -147,17 +117,15 @@ const Snapshot::View* Snapshot::Group::find(const QString& view) const
 
 Snapshot Snapshot::fromXml(const QByteArray& document)
 {
+    const DocumentModel model = DocumentModel::ofAccepted(document);
     Snapshot snapshot;
-    QXmlStreamReader reader(document);
-    while (!reader.atEnd()) {
-        if (reader.readNext() != QXmlStreamReader::StartElement)
-            continue;
-        if (reader.name() == QLatin1String("ViewData"))
-            snapshot.version = attribute(reader, "Version");
-        else if (reader.name() == QLatin1String("ToolBarState"))
-            readState(reader, snapshot.toolBarStates);
-        else if (reader.name() == QLatin1String("Group"))
-            snapshot.groups.append(readGroup(reader));
+    snapshot.version = model.version;
+    snapshot.toolBarStates = statesOf(model.toolBarStates);
+    for (const DocumentGroup& element : model.groups) {
+        Group group{element.name, {}, viewOf(element.current)};
+        for (const DocumentView& view : element.views)
+            group.views.append(viewOf(view));
+        snapshot.groups.append(group);
     }
     return snapshot;
 }
