@@ -38,8 +38,8 @@ private Q_SLOTS:
     void unsoundStatesAreNotGiven();
     void missingDockWidgetsAreCreated_data();
     void missingDockWidgetsAreCreated();
+    void unknownDockWidgetsKeepTheirPlace_data();
     void unknownDockWidgetsKeepTheirPlace();
-    void aPlaceThatIsKeptIsFilledAtOnce();
 };
 
 namespace {
@@ -366,31 +366,16 @@ void LayoutsSwitchTest::missingDockWidgetsAreCreated()
     QCOMPARE(created, 1);
 }
 
-void LayoutsSwitchTest::unknownDockWidgetsKeepTheirPlace()
+void LayoutsSwitchTest::unknownDockWidgetsKeepTheirPlace_data()
 {
-    Manager manager({"G"_s}, /*mergeOnApply=*/true);
-    FourSidesWindow window;
-    window.show();
-    Layouts layouts(manager);
-    layouts.addWindow(window, "w"_s);
-    window.tabifyDockWidget(window.left, window.one);
-    manager.saveCurrentViewAs("a"_s);
-    window.rearrangeDocks();
-    manager.saveCurrentViewAs("b"_s);
-    delete window.one;
-    manager.activateView("a"_s);
-    // Saved again while nobody knows it.
-    manager.saveCurrentViewAs("a"_s);
-    manager.activateView("b"_s);
-    layouts.addDock("one"_s, [] { return new QDockWidget; });
-    manager.activateView("a"_s);
-    auto* one = window.findChild<QDockWidget*>("one"_s);
-    QVERIFY(one);
-    QCOMPARE(window.tabifiedDockWidgets(one), QList<QDockWidget*>({window.left, window.leftTab}));
+    QTest::addColumn<bool>("savedWithout");
+    QTest::newRow("filled at once") << false;
+    QTest::newRow("filled by a switch, saved meanwhile") << true;
 }
 
-void LayoutsSwitchTest::aPlaceThatIsKeptIsFilledAtOnce()
+void LayoutsSwitchTest::unknownDockWidgetsKeepTheirPlace()
 {
+    QFETCH(bool, savedWithout);
     Manager manager({"G"_s}, /*mergeOnApply=*/true);
     FourSidesWindow window;
     window.show();
@@ -402,7 +387,13 @@ void LayoutsSwitchTest::aPlaceThatIsKeptIsFilledAtOnce()
     manager.saveCurrentViewAs("b"_s);
     delete window.one;
     manager.activateView("a"_s);
+    if (savedWithout) {
+        manager.saveCurrentViewAs("a"_s);
+        manager.activateView("b"_s);
+    }
     layouts.addDock("one"_s, [] { return new QDockWidget; });
+    if (savedWithout)
+        manager.activateView("a"_s);
     auto* one = window.findChild<QDockWidget*>("one"_s);
     QVERIFY(one);
     QCOMPARE(window.tabifiedDockWidgets(one), QList<QDockWidget*>({window.left, window.leftTab}));

@@ -34,17 +34,6 @@ namespace {
 constexpr int vertical = 2;
 constexpr int visible = 1;
 
-/** A window of 806 x 600 with "A" at the left, 200 wide, and a central widget of 600. */
-BlobBuilder oneDock()
-{
-    return soundHead()
-        .dockSection(1)
-        .dock(0, 200, 600)
-        .sequence(vertical, 1)
-        .widget("A"_s, visible, {0, 600, 50, 16777215})
-        .dockTail(600, 600, {4, 4, 8, 8});
-}
-
 } // namespace
 
 void PicturePaintTest::hostileNumbers_data()
@@ -101,7 +90,7 @@ void PicturePaintTest::millionItems()
 
 void PicturePaintTest::paintsInsideTheTarget()
 {
-    const Picture picture((WindowState(oneDock().blob())));
+    const Picture picture((WindowState(dockBesideCentral().blob())));
     QImage image(400, 400, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::red);
     QPainter painter(&image);
@@ -117,7 +106,7 @@ void PicturePaintTest::paintsInsideTheTarget()
 
 void PicturePaintTest::paintLeavesThePainterAsItWas()
 {
-    const Picture picture((WindowState(oneDock().blob())));
+    const Picture picture((WindowState(dockBesideCentral().blob())));
     QImage image(400, 400, QImage::Format_ARGB32_Premultiplied);
     QPainter painter(&image);
     painter.setPen(Qt::red);
@@ -130,7 +119,7 @@ void PicturePaintTest::paintLeavesThePainterAsItWas()
 
 void PicturePaintTest::paintsDark()
 {
-    const Picture picture((WindowState(oneDock().blob())));
+    const Picture picture((WindowState(dockBesideCentral().blob())));
     for (const bool isDark : {false, true}) {
         QImage image(806, 600, QImage::Format_ARGB32_Premultiplied);
         QPainter painter(&image);

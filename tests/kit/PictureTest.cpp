@@ -75,17 +75,6 @@ QStringList shown(const BlobBuilder& builder, const QSize& size = QSize())
     return textOf(Picture(WindowState(builder.blob()), size));
 }
 
-/** A window of 806 x 600 with "A" at the left, 200 wide, and a central widget of 600. */
-BlobBuilder oneDock()
-{
-    return soundHead()
-        .dockSection(1)
-        .dock(0, 200, 600)
-        .sequence(vertical, 1)
-        .widget("A"_s, visible, {0, 600, 50, 16777215})
-        .dockTail(600, 600, {4, 4, 8, 8});
-}
-
 } // namespace
 
 void PictureTest::unreadableIsEmpty()
@@ -124,7 +113,7 @@ void PictureTest::exampleParts()
 
 void PictureTest::windowSizeCountsWhatIsThere()
 {
-    QCOMPARE(Picture::windowSize(WindowState(oneDock().blob())), QSize(806, 600));
+    QCOMPARE(Picture::windowSize(WindowState(dockBesideCentral().blob())), QSize(806, 600));
     QCOMPARE(Picture::windowSize(WindowState(exampleBlob())), QSize(606, 336));
     // A top side as long as the window tells the separators: 700 - 200 - 300 - 180 = 2 x 10.
     BlobBuilder builder = soundHead().dockSection(3);
@@ -138,12 +127,12 @@ void PictureTest::windowSizeCountsWhatIsThere()
 
 void PictureTest::otherSizeGoesToTheCentralWidget()
 {
-    QCOMPARE(shown(oneDock(), QSize(1000, 700)),
+    QCOMPARE(shown(dockBesideCentral(), QSize(1000, 700)),
              (QStringList{"central 206,0 794x700"_s, "A 0,0 200x700"_s}));
-    QCOMPARE(shown(oneDock(), QSize(306, 100)),
+    QCOMPARE(shown(dockBesideCentral(), QSize(306, 100)),
              (QStringList{"central 206,0 100x100"_s, "A 0,0 200x100"_s}));
     // Nothing is left for the central widget.
-    QCOMPARE(shown(oneDock(), QSize(106, 100)),
+    QCOMPARE(shown(dockBesideCentral(), QSize(106, 100)),
              (QStringList{"central 106,0 0x100"_s, "A 0,0 100x100"_s}));
 }
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/MenuReading.h"
 #include "support/Text.h"
 
 #include <panorel/Manager.h>
@@ -7,7 +8,6 @@
 
 #include <QLineEdit>
 #include <QPointer>
-#include <QWidgetAction>
 #include <QtTest>
 
 #include <functional>
@@ -18,39 +18,13 @@ using namespace Panorel::Tests;
 
 namespace {
 
-QAction* entryOf(const QMenu& menu, const QString& text)
-{
-    const QList<QAction*> actions = menu.actions();
-    for (QAction* const action : actions) {
-        if (action->text() == text)
-            return action;
-    }
-    return nullptr;
-}
-
-QMenu* subMenuOf(const QMenu& menu, const QString& text)
-{
-    const QAction* const entry = entryOf(menu, text);
-    return entry ? entry->menu() : nullptr;
-}
-
-QStringList textsOf(const QMenu& menu)
+QStringList viewTexts(const QMenu& menu)
 {
     QStringList texts;
-    const QList<QAction*> actions = menu.actions();
-    for (const QAction* const action : actions) {
-        if (action->isSeparator())
-            break;
-        texts.append(action->text());
-    }
+    const QList<QAction*> found = viewEntries(menu);
+    for (const QAction* const view : found)
+        texts.append(view->text());
     return texts;
-}
-
-QLineEdit* editOf(const QMenu& menu)
-{
-    const QMenu* const saveAs = subMenuOf(menu, "Save Current Layout As..."_s);
-    auto* const action = qobject_cast<QWidgetAction*>(saveAs->actions().first());
-    return qobject_cast<QLineEdit*>(action->defaultWidget());
 }
 
 /** Runs an action when the watched object gets a close event, before it handles that. */
@@ -92,8 +66,6 @@ private Q_SLOTS:
     void fieldRebuiltByReturn();
 
 private:
-    QMenu& menu() { return *m_menu; }
-
     std::unique_ptr<Manager> m_manager;
     QPointer<Menu> m_menu;
 };
@@ -119,7 +91,7 @@ void MenuReentryTest::cleanup()
 void MenuReentryTest::deletedByItsOwnEntry_data()
 {
     QTest::addColumn<QString>("subMenu");
-    QTest::addColumn<QString>("entry");
+    QTest::addColumn<QString>("text");
     QTest::addColumn<QStringList>("views");
     QTest::addColumn<QString>("active");
     QTest::addRow("view") << QString() << "a"_s << lines({"a", "b"}) << "a"_s;
@@ -137,10 +109,10 @@ void MenuReentryTest::deletedByItsOwnEntry_data()
 void MenuReentryTest::deletedByItsOwnEntry()
 {
     QFETCH(QString, subMenu);
-    QFETCH(QString, entry);
-    const QMenu* const holder = subMenu.isEmpty() ? m_menu.data() : subMenuOf(menu(), subMenu);
+    QFETCH(QString, text);
+    const QMenu* const holder = subMenu.isEmpty() ? m_menu.data() : entry(m_menu, subMenu)->menu();
     connect(m_manager.get(), &Manager::viewActivated, this, [this] { delete m_menu; });
-    entryOf(*holder, entry)->trigger();
+    entry(holder, text)->trigger();
     QVERIFY(!m_menu);
     QTEST(m_manager->views(), "views");
     QTEST(m_manager->activeView(), "active");
@@ -182,7 +154,7 @@ void MenuReentryTest::deletedByASignal()
 void MenuReentryTest::deletedByReturnInItsField()
 {
     connect(m_manager.get(), &Manager::groupModified, this, [this] { delete m_menu; });
-    QLineEdit* const edit = editOf(menu());
+    QLineEdit* const edit = nameEdit(*m_menu);
     QTest::keyClicks(edit, "typed"_s);
     QTest::keyClick(edit, Qt::Key_Return);
     QVERIFY(!m_menu);
@@ -196,7 +168,7 @@ void MenuReentryTest::deletedWhenItCloses()
     m_menu->installEventFilter(&watch);
     watch.onClose = [this] { delete m_menu; };
     m_menu->popup(QPoint(0, 0));
-    QLineEdit* const edit = editOf(menu());
+    QLineEdit* const edit = nameEdit(*m_menu);
     QTest::keyClicks(edit, "typed"_s);
     QTest::keyClick(edit, Qt::Key_Return);
     QVERIFY(!m_menu);
@@ -206,18 +178,18 @@ void MenuReentryTest::deletedWhenItCloses()
 void MenuReentryTest::changedWhilePoppedUp()
 {
     m_menu->popup(QPoint(0, 0));
-    m_menu->setActiveAction(entryOf(menu(), "b"_s));
+    m_menu->setActiveAction(entry(m_menu, "b"_s));
     m_manager->deleteView("b"_s);
-    QCOMPARE(textsOf(menu()), lines({"a"}));
+    QCOMPARE(viewTexts(*m_menu), lines({"a"}));
     QVERIFY(m_manager->createView("c"_s));
-    QCOMPARE(textsOf(menu()), lines({"a", "c"}));
+    QCOMPARE(viewTexts(*m_menu), lines({"a", "c"}));
     QTest::keyClick(m_menu, Qt::Key_Up);
     QVERIFY(m_manager->activateGroup("H"_s));
-    QCOMPARE(textsOf(menu()), QStringList());
+    QCOMPARE(viewTexts(*m_menu), QStringList());
     QVERIFY(m_manager->activateFactoryDefaultView());
     QVERIFY(m_manager->activateGroup("G"_s));
-    QCOMPARE(textsOf(menu()), lines({"a", "b"}));
-    QVERIFY(entryOf(menu(), "b"_s)->isChecked());
+    QCOMPARE(viewTexts(*m_menu), lines({"a", "b"}));
+    QVERIFY(entry(m_menu, "b"_s)->isChecked());
     QVERIFY(m_menu->isVisible());
     m_menu->close();
 }
@@ -225,14 +197,14 @@ void MenuReentryTest::changedWhilePoppedUp()
 void MenuReentryTest::closedByTheChangeItMakes()
 {
     m_menu->popup(QPoint(0, 0));
-    QMenu* const deleteMenu = subMenuOf(menu(), "Delete Layout..."_s);
-    deleteMenu->popup(QPoint(0, 0));
-    deleteMenu->setActiveAction(entryOf(*deleteMenu, "b"_s));
+    QMenu* const subMenu = deleteMenu(*m_menu);
+    subMenu->popup(QPoint(0, 0));
+    subMenu->setActiveAction(entry(subMenu, "b"_s));
     // The entry is destroyed by the rebuilding while it is still triggered.
-    QTest::keyClick(deleteMenu, Qt::Key_Return);
+    QTest::keyClick(subMenu, Qt::Key_Return);
     QCOMPARE(m_manager->views(), lines({"a"}));
-    QCOMPARE(textsOf(menu()), lines({"a"}));
-    QVERIFY(!deleteMenu->isVisible());
+    QCOMPARE(viewTexts(*m_menu), lines({"a"}));
+    QVERIFY(!subMenu->isVisible());
     m_menu->close();
 }
 
@@ -247,13 +219,13 @@ void MenuReentryTest::buttonDeletedByItsClick()
 
 void MenuReentryTest::fieldRebuiltByReturn()
 {
-    const QPointer<QLineEdit> edit = editOf(menu());
+    const QPointer<QLineEdit> edit = nameEdit(*m_menu);
     QTest::keyClicks(edit, "new"_s);
     QTest::keyClick(edit, Qt::Key_Enter);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(!edit);
-    QCOMPARE(textsOf(menu()), lines({"a", "b", "new"}));
-    QCOMPARE(editOf(menu())->text(), QString());
+    QCOMPARE(viewTexts(*m_menu), lines({"a", "b", "new"}));
+    QCOMPARE(nameEdit(*m_menu)->text(), QString());
 }
 
 QTEST_MAIN(MenuReentryTest)

@@ -48,6 +48,9 @@ private Q_SLOTS:
     void userDataIsInvalid();
 
 private:
+    /** Manages the window, saves "left" and moves the dock widget to the right. */
+    void leaveLeft(Manager& manager);
+
     SmallWindow m_window;
     Owner m_owner{{{"w"_s, &m_window}}};
 };
@@ -55,6 +58,13 @@ private:
 void ManagerViewsTest::init()
 {
     m_window.arrange(Qt::LeftDockWidgetArea, Qt::TopToolBarArea);
+}
+
+void ManagerViewsTest::leaveLeft(Manager& manager)
+{
+    manager.registerManagable(m_owner);
+    QVERIFY(manager.saveCurrentViewAs("left"_s));
+    m_window.moveDock(Qt::RightDockWidgetArea);
 }
 
 void ManagerViewsTest::createAppends()
@@ -179,9 +189,7 @@ void ManagerViewsTest::saveOverwrites()
 void ManagerViewsTest::saveSparesOtherViews()
 {
     Manager manager(lines({"G"}), false);
-    manager.registerManagable(m_owner);
-    QVERIFY(manager.saveCurrentViewAs("left"_s));
-    m_window.moveDock(Qt::RightDockWidgetArea);
+    leaveLeft(manager);
     // "left" is active, but the layout goes under the given name only.
     QVERIFY(manager.saveCurrentViewAs("right"_s));
     QVERIFY(manager.activateView("left"_s));
@@ -226,9 +234,7 @@ void ManagerViewsTest::activateUnknown()
 {
     QFETCH(QString, name);
     Manager manager(lines({"G"}), false);
-    manager.registerManagable(m_owner);
-    QVERIFY(manager.saveCurrentViewAs("left"_s));
-    m_window.moveDock(Qt::RightDockWidgetArea);
+    leaveLeft(manager);
     m_owner.calls = 0;
     const SignalLog log(manager);
 
@@ -242,9 +248,7 @@ void ManagerViewsTest::activateUnknown()
 void ManagerViewsTest::activateDropsLiveChanges()
 {
     Manager manager(lines({"G"}), false);
-    manager.registerManagable(m_owner);
-    QVERIFY(manager.saveCurrentViewAs("left"_s));
-    m_window.moveDock(Qt::RightDockWidgetArea);
+    leaveLeft(manager);
     QVERIFY(manager.saveCurrentViewAs("right"_s));
     m_window.moveDock(Qt::TopDockWidgetArea);
     QVERIFY(manager.activateView("left"_s));
@@ -256,9 +260,7 @@ void ManagerViewsTest::activateDropsLiveChanges()
 void ManagerViewsTest::activateAgainRestores()
 {
     Manager manager(lines({"G"}), false);
-    manager.registerManagable(m_owner);
-    QVERIFY(manager.saveCurrentViewAs("left"_s));
-    m_window.moveDock(Qt::RightDockWidgetArea);
+    leaveLeft(manager);
     const SignalLog log(manager);
     QCOMPARE(manager.activateView("left"_s), true);
     QCOMPARE(m_window.dockArea(), Qt::LeftDockWidgetArea);
@@ -316,9 +318,7 @@ void ManagerViewsTest::deleteUnknown()
 void ManagerViewsTest::deleteSparesTheWindows()
 {
     Manager manager(lines({"G"}), false);
-    manager.registerManagable(m_owner);
-    QVERIFY(manager.saveCurrentViewAs("left"_s));
-    m_window.moveDock(Qt::RightDockWidgetArea);
+    leaveLeft(manager);
     QVERIFY(manager.saveCurrentViewAs("right"_s));
     m_window.moveDock(Qt::TopDockWidgetArea);
     m_owner.calls = 0;

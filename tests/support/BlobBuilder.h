@@ -120,6 +120,19 @@ inline BlobBuilder soundHead(qint32 version = 0)
     return BlobBuilder().head(255, version);
 }
 
+/** A window of 806 x 600 with "A" at the left, 200 wide, and a central widget of 600. */
+inline BlobBuilder dockBesideCentral()
+{
+    constexpr int vertical = 2;
+    constexpr int visible = 1;
+    return soundHead()
+        .dockSection(1)
+        .dock(0, 200, 600)
+        .sequence(vertical, 1)
+        .widget("A"_s, visible, {0, 600, 50, 16777215})
+        .dockTail(600, 600, {4, 4, 8, 8});
+}
+
 /**
  * One dock record with the dock widget AB and one extended line with the tool bar T; 117 bytes,
  * kept as literal bytes on purpose.
