@@ -223,8 +223,11 @@ void WindowWatch::keepBeforeClosing()
     if (!m_beforeClosing.isEmpty())
         return;
     m_beforeClosing = state();
-    QMetaObject::invokeMethod(
-        this, [this] { m_beforeClosing.clear(); }, Qt::QueuedConnection);
+    // A deleted object tells when control returns to the event loop, because the event loop of a
+    // dialog such as "Save changes?" does not delete it.
+    auto* closing = new QObject(this);
+    connect(closing, &QObject::destroyed, this, [this] { m_beforeClosing.clear(); });
+    closing->deleteLater();
 }
 
 bool WindowWatch::isClosed() const
