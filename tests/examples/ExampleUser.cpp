@@ -10,10 +10,12 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
 #include <QDockWidget>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QStandardPaths>
 #include <QStatusBar>
 #include <QTest>
 #include <QToolBar>
@@ -50,6 +52,23 @@ QMainWindow& windowWith(const QString& dock, const QString& title = QString())
     qFatal("no window has \"%s\"", qPrintable(dock));
 }
 
+// The dock widget that most examples have, each under an object name of its own.
+QDockWidget& filesDock()
+{
+    for (const QWidget* window : QApplication::topLevelWidgets()) {
+        for (QDockWidget* dock : window->findChildren<QDockWidget*>()) {
+            if (dock->windowTitle() == QLatin1String("Files"))
+                return *dock;
+        }
+    }
+    qFatal("no window has a dock widget for files");
+}
+
+QMainWindow& windowWithFiles()
+{
+    return *qobject_cast<QMainWindow*>(filesDock().parent());
+}
+
 Panorel::Menu& menuOf(const QMainWindow& window)
 {
     for (const QAction* action : window.menuBar()->actions()) {
@@ -76,9 +95,8 @@ void saveAs(Panorel::Menu& menu, const QString& name)
 
 bool savesAndSwitches()
 {
-    const QMainWindow& window = windowWith(QStringLiteral("files"));
-    Panorel::Menu& menu = menuOf(window);
-    auto& files = part<QDockWidget>(window, QStringLiteral("files"));
+    Panorel::Menu& menu = menuOf(windowWithFiles());
+    QDockWidget& files = filesDock();
     saveAs(menu, QStringLiteral("Wide"));
     files.close();
     return choose(menu, QStringLiteral("Wide")) &&
@@ -87,7 +105,7 @@ bool savesAndSwitches()
 
 bool hasKept()
 {
-    const Panorel::Menu& menu = menuOf(windowWith(QStringLiteral("files")));
+    const Panorel::Menu& menu = menuOf(windowWithFiles());
     const QAction* wide = entry(&menu, QStringLiteral("Wide"));
     return check(wide, "the layout of the last run is there") &&
            check(wide->isChecked(), "it is the active one, as it was");
@@ -95,13 +113,46 @@ bool hasKept()
 
 bool hasMovedAway()
 {
-    const QMainWindow& window = windowWith(QStringLiteral("files"));
+    const QMainWindow& window = windowWithFiles();
     const QString message = part<QStatusBar>(window).currentMessage();
     return check(!entry(&menuOf(window), QStringLiteral("Wide")),
                  "nothing comes of the damaged file") &&
            check(message.endsWith(QStringLiteral("It is damaged. "
                                                  "It is kept as layouts.views.unreadable-1.")),
                  "the user learns where the damaged file is kept");
+}
+
+// Nobody saves a layout: the windows come back as they were left all the same.
+bool keepsArrangement()
+{
+    QMainWindow& window = windowWithFiles();
+    part<QDockWidget>(window, QStringLiteral("Outline")).close();
+    window.addDockWidget(Qt::RightDockWidgetArea, &filesDock());
+    window.resize(640, 400);
+    return true;
+}
+
+bool hasArrangement()
+{
+    QMainWindow& window = windowWithFiles();
+    QDockWidget& files = filesDock();
+    auto& outline = part<QDockWidget>(window, QStringLiteral("Outline"));
+    const bool isAsLeft = QTest::qWaitFor([&] {
+        return outline.isHidden() && window.dockWidgetArea(&files) == Qt::RightDockWidgetArea;
+    });
+    outline.show();
+    return check(isAsLeft, "the dock widgets are as they were left") &&
+           check(window.size() == QSize(640, 400), "the window has its size");
+}
+
+bool hasRecovered()
+{
+    const QStringList kept = QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation))
+                                 .entryList({QStringLiteral("*.unreadable-1")});
+    return check(entry(&menuOf(windowWithFiles()), QStringLiteral("Wide")),
+                 "the layout is there from the last good file") &&
+           check(kept == QStringList{QStringLiteral("layouts.views.unreadable-1")},
+                 "the damaged file is kept");
 }
 
 bool switchesGroups()
@@ -156,8 +207,8 @@ bool merges()
 
 bool cycles()
 {
-    const QMainWindow& window = windowWith(QStringLiteral("files"));
-    auto& files = part<QDockWidget>(window, QStringLiteral("files"));
+    const QMainWindow& window = windowWithFiles();
+    QDockWidget& files = filesDock();
     auto& button = part<Panorel::ViewButton>(window);
     const bool isHidden = files.isHidden();
     QTest::mouseClick(&button, Qt::LeftButton, {}, {5, 5});
@@ -179,6 +230,9 @@ bool useExample(const QString& name)
     } uses[] = {{"savesAndSwitches", savesAndSwitches},
                 {"hasKept", hasKept},
                 {"hasMovedAway", hasMovedAway},
+                {"keepsArrangement", keepsArrangement},
+                {"hasArrangement", hasArrangement},
+                {"hasRecovered", hasRecovered},
                 {"switchesGroups", switchesGroups},
                 {"merges", merges},
                 {"cycles", cycles},

@@ -34,6 +34,10 @@ panorel_end_program(01-first-layouts WAYS
     closeAndQuitLater quit quitEvent)
 panorel_end_program(01-first-layouts WAYS closeDock THEN areClosed)
 panorel_end_program(04-safe-storage WAYS closeWindows closeAllWindows quit)
+panorel_end_program(08-kit WAYS
+    closeWindows closeAllWindows closeDocksFirstAndAsk closeAtSecondTry closeAndReopenDock
+    closeAndQuitLater quit quitEvent)
+panorel_end_program(08-kit WAYS closeDock THEN areClosed)
 panorel_end_program(migration WAYS closeWindows closeAllWindows quit)
 panorel_end_program(two-windows WAYS closeOneByOne closeAllWindows closeDocksFirstAndAsk quit quitEvent)
 
@@ -44,6 +48,7 @@ set(under_xvfb "${PROJECT_SOURCE_DIR}/tests/ui/run-under-xvfb")
 find_program(PANOREL_XDOTOOL xdotool)
 if(PANOREL_XDOTOOL)
     panorel_end_program(01-first-layouts WAYS pressAltF4 clickCloseButton RUNNER "${under_xvfb}")
+    panorel_end_program(08-kit WAYS pressAltF4 clickCloseButton RUNNER "${under_xvfb}")
 endif()
 find_package(X11)
 if(X11_SM_FOUND AND X11_ICE_FOUND)
@@ -51,7 +56,7 @@ if(X11_SM_FOUND AND X11_ICE_FOUND)
     panorel_compile_settings(session-manager)
     target_link_libraries(session-manager PRIVATE X11::SM X11::ICE)
     set(session_manager "$<TARGET_FILE:session-manager>")
-    foreach(program 01-first-layouts 04-safe-storage migration two-windows)
+    foreach(program 01-first-layouts 04-safe-storage 08-kit migration two-windows)
         panorel_end_program(${program} WAYS endSession endSessionByForce
             RUNNER "${under_xvfb}")
     endforeach()
