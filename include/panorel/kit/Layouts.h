@@ -3,6 +3,7 @@
 
 #include <panorel/kit/PanorelKitExport.h>
 
+#include <QList>
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -10,6 +11,7 @@
 #include <functional>
 #include <memory>
 
+class QAction;
 class QDockWidget;
 class QMainWindow;
 class QMenu;
@@ -24,6 +26,7 @@ class Manager;
 namespace Panorel::Kit {
 
 namespace Detail {
+struct Actions;
 struct Session;
 } // namespace Detail
 
@@ -107,6 +110,28 @@ public:
     QToolButton* createButton(QWidget* parent);
 
     /**
+     * Nine actions, each of which activates the layout that the user has given its slot, also one
+     * of another group, and names it; disabled if there is none. Owned by this object, and added to
+     * each window, so that their shortcuts work there. Which layouts they have is kept in the file.
+     */
+    QList<QAction*> slotActions() const;
+    /** Whether the actions have shortcuts. */
+    bool areSlotShortcutsEnabled() const;
+    /**
+     * Gives the actions the shortcuts Ctrl+Alt+1 to Ctrl+Alt+9, which common programs leave free,
+     * or takes them away. Off until the application or the user turns them on, and kept in the
+     * file: start() takes over what the file says. A shortcut that the application sets itself
+     * stays as it is, on or off.
+     */
+    void setSlotShortcutsEnabled(bool enabled);
+
+    /** Activates the next layout of the active group, in the Manager's order and from the last on
+        to the first; disabled where there is no other. Owned by this object; no shortcut. */
+    QAction* nextAction() const;
+    /** The same with the previous one. */
+    QAction* previousAction() const;
+
+    /**
      * Adds the layouts of a file to those that are there, in place of those of the same name, and
      * shows its working layout. Parts that are not sound are left out.
      * @param problem if not null, gets why nothing was changed, in the user's language; else null.
@@ -135,6 +160,7 @@ Q_SIGNALS:
     void message(const QString& text);
 
 private:
+    const std::unique_ptr<Detail::Actions> m_actions;
     /** Null once the Manager is gone. */
     std::unique_ptr<Detail::Session> m_session;
 };

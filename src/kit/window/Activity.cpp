@@ -122,6 +122,12 @@ void Activity::noteViews()
     }
     const bool wasDeleted = m_views.size() == before.size() - 1;
     m_wasReplaced = m_wasReplaced || !wasDeleted;
+    if (!wasDeleted)
+        return;
+    for (const QString& view : before) {
+        if (!m_views.contains(view))
+            m_stored.removeView(m_group, view);
+    }
 }
 
 void Activity::onGroupActivated()

@@ -86,6 +86,7 @@ void Keeper::start(const QString& fileName)
     m_storage = std::make_unique<Storage>(fileName);
     m_windows.update();
     load();
+    Q_EMIT loaded();
     connect(&m_activity, &Activity::changed, this, &Keeper::saveSoon, Qt::UniqueConnection);
     connect(&m_windows, &Windows::touched, this, &Keeper::saveSoon, Qt::UniqueConnection);
     connect(&m_windows, &Windows::closing, this, &Keeper::saveSoon, Qt::UniqueConnection);
@@ -100,6 +101,14 @@ void Keeper::stop()
 {
     m_storage.reset();
     m_timer.stop();
+}
+
+void Keeper::set(const QString& key, const QJsonValue& value)
+{
+    if (m_settings.value(key) == value)
+        return;
+    m_settings.insert(key, value);
+    saveSoon();
 }
 
 void Keeper::load()

@@ -45,8 +45,12 @@ public:
 
     /** What else is kept in the file; a change is saved with the next one. */
     QJsonObject& settings() { return m_settings; }
+    /** Keeps @p value too, and saves it soon. */
+    void set(const QString& key, const QJsonValue& value);
 
 Q_SIGNALS:
+    /** The settings() are those of the file, if it has any. */
+    void loaded();
     /** One sentence for the user. */
     void message(const QString& text);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <panorel/kit/Layouts.h>
 
+#include "Actions.h"
 #include "Doctor.h"
 #include "Session.h"
 
@@ -16,7 +17,9 @@ namespace Panorel::Kit {
 
 Layouts::Layouts(Manager& manager, QObject* parent)
     : QObject(parent)
-    , m_session(std::make_unique<Detail::Session>(manager, *new Detail::WindowOwner(manager)))
+    , m_actions(std::make_unique<Detail::Actions>(*this))
+    , m_session(
+          std::make_unique<Detail::Session>(manager, *new Detail::WindowOwner(manager), *m_actions))
 {
     // While the owner, which is its child, is still there.
     connect(&manager, &QObject::destroyed, this, [this] {
@@ -83,6 +86,32 @@ QToolButton* Layouts::createButton(QWidget* parent)
     auto* button = new QToolButton(parent);
     button->setEnabled(false);
     return button;
+}
+
+QList<QAction*> Layouts::slotActions() const
+{
+    return m_actions->layouts;
+}
+
+bool Layouts::areSlotShortcutsEnabled() const
+{
+    return m_session && m_session->layoutSlots.areShortcutsEnabled();
+}
+
+void Layouts::setSlotShortcutsEnabled(bool enabled)
+{
+    if (m_session)
+        m_session->layoutSlots.setShortcutsEnabled(enabled);
+}
+
+QAction* Layouts::nextAction() const
+{
+    return m_actions->next;
+}
+
+QAction* Layouts::previousAction() const
+{
+    return m_actions->previous;
 }
 
 bool Layouts::importFile(const QString& fileName, QString* problem)

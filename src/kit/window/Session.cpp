@@ -3,7 +3,7 @@
 
 namespace Panorel::Kit::Detail {
 
-Session::Session(Manager& theManager, WindowOwner& theOwner)
+Session::Session(Manager& theManager, WindowOwner& theOwner, const Actions& actions)
     : manager(theManager)
     , owner(theOwner)
     , stored(manager, owner)
@@ -12,6 +12,8 @@ Session::Session(Manager& theManager, WindowOwner& theOwner)
     , windows(owner, giver)
     , keeper(manager, owner, stored, activity, windows)
     , transfer(manager)
+    , layoutSlots(manager, stored, windows, keeper, actions)
+    , cycle(manager, actions)
 {}
 
 } // namespace Panorel::Kit::Detail

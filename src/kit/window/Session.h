@@ -2,10 +2,12 @@
 #pragma once
 
 #include "Activity.h"
+#include "Cycle.h"
 #include "DockFactory.h"
 #include "Giver.h"
 #include "Keeper.h"
 #include "Names.h"
+#include "Slots.h"
 #include "StoredViews.h"
 #include "Transfer.h"
 #include "WindowOwner.h"
@@ -13,10 +15,12 @@
 
 namespace Panorel::Kit::Detail {
 
+struct Actions;
+
 /** All that a Layouts is made of, as long as its Manager lives. Each knows those before it only. */
 struct Session
 {
-    explicit Session(Manager& manager, WindowOwner& owner);
+    Session(Manager& manager, WindowOwner& owner, const Actions& actions);
 
     Manager& manager;
     WindowOwner& owner;
@@ -28,6 +32,8 @@ struct Session
     Windows windows;
     Keeper keeper;
     Transfer transfer;
+    Slots layoutSlots;
+    Cycle cycle;
 };
 
 } // namespace Panorel::Kit::Detail

@@ -15,15 +15,14 @@ StoredViews::StoredViews(Manager& manager, WindowOwner& owner)
 
 StateMap StoredViews::view(const QString& group, const QString& view)
 {
-    if (!m_knowsViews) {
-        // Kept, because the Manager may be just about to give one of them.
-        const QHash<QString, StateMap> currents = m_currents;
-        const bool knewCurrents = m_knowsCurrents;
-        fetch();
-        m_currents = currents;
-        m_knowsCurrents = knewCurrents;
-    }
+    fetchViews();
     return m_views.value({group, view});
+}
+
+bool StoredViews::has(const QString& group, const QString& view)
+{
+    fetchViews();
+    return m_views.contains({group, view});
 }
 
 void StoredViews::setView(const QString& group, const QString& view, const StateMap& states)
@@ -55,6 +54,18 @@ void StoredViews::read(const Snapshot& snapshot)
     }
     m_knowsViews = true;
     m_knowsCurrents = true;
+}
+
+void StoredViews::fetchViews()
+{
+    if (m_knowsViews)
+        return;
+    // Kept, because the Manager may be just about to give one of them.
+    const QHash<QString, StateMap> currents = m_currents;
+    const bool knewCurrents = m_knowsCurrents;
+    fetch();
+    m_currents = currents;
+    m_knowsCurrents = knewCurrents;
 }
 
 void StoredViews::fetch()

@@ -28,10 +28,14 @@ public:
 
     /** The states of a saved view; empty if there is none. */
     StateMap view(const QString& group, const QString& view);
+    /** Whether there is a saved view of this name. Not while the Manager emits signals, as it may
+        have to be asked. */
+    bool has(const QString& group, const QString& view);
     /** The states of the current view of a group other than the active one, as far as known. */
     StateMap current(const QString& group) const { return m_currents.value(group); }
 
     void setView(const QString& group, const QString& view, const StateMap& states);
+    void removeView(const QString& group, const QString& view) { m_views.remove({group, view}); }
     void setCurrent(const QString& group, const StateMap& states);
 
     /** The saved views are read again when one is needed. */
@@ -47,6 +51,7 @@ public:
 private:
     using Views = QHash<QPair<QString, QString>, StateMap>;
 
+    void fetchViews();
     void fetch();
 
     Manager& m_manager;

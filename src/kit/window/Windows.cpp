@@ -75,6 +75,7 @@ void Windows::add(const QString& id, QMainWindow& window)
     connect(watch, &WindowWatch::closing, this, &Windows::closing);
     watch->setGeometry(m_geometries.value(id));
     watch->setState(m_states.value(id));
+    Q_EMIT added(&window);
 }
 
 void Windows::onGiven(QMainWindow* window, const QByteArray& state)

@@ -40,6 +40,8 @@ public:
     QMap<QString, QByteArray> geometries();
 
 Q_SIGNALS:
+    /** @p window is watched from now on. */
+    void added(QMainWindow* window);
     /** Something may have been rearranged. */
     void touched();
     /** A window is about to be closed. */

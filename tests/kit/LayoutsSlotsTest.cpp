@@ -1,0 +1,302 @@
+// SPDX-License-Identifier: MIT
+#include "support/SmallWindow.h"
+#include "support/Text.h"
+
+#include <panorel/Manager.h>
+#include <panorel/kit/Layouts.h>
+
+#include <QAction>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Panorel;
+using namespace Panorel::Kit;
+using namespace Panorel::Tests;
+
+namespace {
+
+struct Program
+{
+    Program()
+        : manager({"G"_s, "H"_s}, /*mergeOnApply=*/false)
+        , layouts(manager)
+    {
+        layouts.addWindow(window, "w"_s);
+        window.show();
+    }
+
+    void createViews()
+    {
+        for (const QString& name : {"a"_s, "b & c"_s, "d"_s})
+            manager.createView(name);
+        manager.activateGroup("H"_s);
+        manager.createView("a"_s);
+        manager.activateGroup("G"_s);
+    }
+
+    QAction& slot(int number) const { return *layouts.slotActions().at(number - 1); }
+    QString active() const { return manager.activeGroup() + "/"_s + manager.activeView(); }
+
+    SmallWindow window;
+    Manager manager;
+    Layouts layouts;
+};
+
+QStringList textsOf(const QList<QAction*>& actions)
+{
+    QStringList texts;
+    for (const QAction* action : actions)
+        texts.append(action->text());
+    return texts;
+}
+
+QStringList shortcutsOf(const QList<QAction*>& actions)
+{
+    QStringList shortcuts;
+    for (const QAction* action : actions)
+        shortcuts.append(action->shortcut().toString(QKeySequence::PortableText));
+    return shortcuts;
+}
+
+} // namespace
+
+/** The actions that go to layouts: by slot, next and previous. */
+class LayoutsSlotsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void slotsAreEmptyAtFirst();
+    void slotsActivateTheirLayouts();
+    void slotsFollowTheLayouts();
+    void slotsOfLayoutsThatAreGoneAreForgottenAtTheStart();
+    void shortcutsAreOffUntilTurnedOn();
+    void shortcutsWorkInTheWindow();
+    void shortcutsOfTheApplicationStay();
+    void shortcutsAreKept();
+    void nextAndPreviousGoAround();
+    void nothingIsLeftWithoutTheManager();
+
+private:
+    QString path() const { return m_folder->filePath("f.views"_s); }
+    /** Makes a file with the views of createViews() and these slots, as the dialog does. */
+    void writeFile(const QJsonObject& layoutSlots) const;
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void LayoutsSlotsTest::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+}
+
+void LayoutsSlotsTest::writeFile(const QJsonObject& layoutSlots) const
+{
+    {
+        Program program;
+        program.layouts.start(path());
+        program.createViews();
+    }
+    QFile file(path());
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QByteArray document = file.readAll();
+    // The first entry of the kit's part of the user data.
+    const QByteArray kit = "{&quot;panorel-kit&quot;:{";
+    const QByteArray json = QJsonDocument(layoutSlots).toJson(QJsonDocument::Compact);
+    const QString entry = "\"slots\":"_s + QString::fromUtf8(json) + ","_s;
+    QCOMPARE(document.count(kit), 1);
+    document.replace(kit, kit + entry.toHtmlEscaped().toUtf8());
+    QVERIFY(file.resize(0) && file.seek(0));
+    QCOMPARE(file.write(document), document.size());
+}
+
+void LayoutsSlotsTest::slotsAreEmptyAtFirst()
+{
+    Program program;
+    QCOMPARE(textsOf(program.layouts.slotActions()),
+             lines({"Empty Slot 1", "Empty Slot 2", "Empty Slot 3", "Empty Slot 4", "Empty Slot 5",
+                    "Empty Slot 6", "Empty Slot 7", "Empty Slot 8", "Empty Slot 9"}));
+    const QList<QAction*> actions = program.layouts.slotActions();
+    for (const QAction* action : actions)
+        QVERIFY(!action->isEnabled());
+}
+
+void LayoutsSlotsTest::slotsActivateTheirLayouts()
+{
+    writeFile({{"1"_s, QJsonArray{"G"_s, "b & c"_s}},
+               {"2"_s, QJsonArray{"H"_s, "a"_s}},
+               {"9"_s, QJsonArray{"G"_s, "a"_s}}});
+    Program program;
+    program.layouts.start(path());
+    QCOMPARE(program.slot(1).text(), "b && c (G)"_s);
+    QCOMPARE(program.slot(2).text(), "a (H)"_s);
+    QCOMPARE(program.slot(3).text(), "Empty Slot 3"_s);
+    QVERIFY(!program.slot(3).isEnabled());
+    program.slot(1).trigger();
+    QCOMPARE(program.active(), "G/b & c"_s);
+    program.slot(2).trigger();
+    QCOMPARE(program.active(), "H/a"_s);
+    program.slot(9).trigger();
+    QCOMPARE(program.active(), "G/a"_s);
+}
+
+void LayoutsSlotsTest::slotsFollowTheLayouts()
+{
+    writeFile({{"1"_s, QJsonArray{"G"_s, "a"_s}}, {"2"_s, QJsonArray{"H"_s, "a"_s}}});
+    Program program;
+    program.layouts.start(path());
+    const QByteArray all = program.manager.toXml(/*markActive=*/true);
+    program.manager.deleteView("a"_s);
+    QVERIFY(!program.slot(1).isEnabled());
+    QCOMPARE(program.slot(1).text(), "Empty Slot 1"_s);
+    QVERIFY(program.slot(2).isEnabled());
+    program.manager.activateGroup("H"_s);
+    program.manager.deleteView("a"_s);
+    QVERIFY(!program.slot(2).isEnabled());
+    // Such as undo does.
+    QVERIFY(program.manager.fromXml(all, /*merge=*/false));
+    QVERIFY(program.slot(2).isEnabled());
+    QTRY_COMPARE(program.slot(1).text(), "a (G)"_s);
+    QVERIFY(program.slot(1).isEnabled());
+    program.slot(1).trigger();
+    QCOMPARE(program.active(), "G/a"_s);
+}
+
+void LayoutsSlotsTest::slotsOfLayoutsThatAreGoneAreForgottenAtTheStart()
+{
+    writeFile({{"1"_s, QJsonArray{"G"_s, "gone"_s}},
+               {"2"_s, QJsonArray{"gone"_s, "a"_s}},
+               {"3"_s, "no pair"_s},
+               {"4"_s, QJsonArray{"G"_s, "d"_s}},
+               {"10"_s, QJsonArray{"G"_s, "a"_s}}});
+    Program program;
+    program.layouts.start(path());
+    program.manager.createView("gone"_s);
+    QVERIFY(!program.slot(1).isEnabled());
+    QVERIFY(!program.slot(2).isEnabled());
+    QVERIFY(!program.slot(3).isEnabled());
+    QVERIFY(program.slot(4).isEnabled());
+    program.slot(1).trigger();
+    QCOMPARE(program.active(), "G/"_s);
+}
+
+void LayoutsSlotsTest::shortcutsAreOffUntilTurnedOn()
+{
+    Program program;
+    QVERIFY(!program.layouts.areSlotShortcutsEnabled());
+    QCOMPARE(shortcutsOf(program.layouts.slotActions()).join(QString()), QString());
+    program.layouts.setSlotShortcutsEnabled(true);
+    QVERIFY(program.layouts.areSlotShortcutsEnabled());
+    QCOMPARE(shortcutsOf(program.layouts.slotActions()),
+             lines({"Ctrl+Alt+1", "Ctrl+Alt+2", "Ctrl+Alt+3", "Ctrl+Alt+4", "Ctrl+Alt+5",
+                    "Ctrl+Alt+6", "Ctrl+Alt+7", "Ctrl+Alt+8", "Ctrl+Alt+9"}));
+    program.layouts.setSlotShortcutsEnabled(false);
+    QCOMPARE(shortcutsOf(program.layouts.slotActions()).join(QString()), QString());
+}
+
+void LayoutsSlotsTest::shortcutsWorkInTheWindow()
+{
+    writeFile({{"4"_s, QJsonArray{"G"_s, "d"_s}}});
+    Program program;
+    program.layouts.start(path());
+    program.window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&program.window));
+    QTest::keyClick(&program.window, Qt::Key_4, Qt::ControlModifier | Qt::AltModifier);
+    QCOMPARE(program.active(), "G/"_s);
+    program.layouts.setSlotShortcutsEnabled(true);
+    QTest::keyClick(&program.window, Qt::Key_5, Qt::ControlModifier | Qt::AltModifier);
+    QCOMPARE(program.active(), "G/"_s);
+    QTest::keyClick(&program.window, Qt::Key_4, Qt::ControlModifier | Qt::AltModifier);
+    QCOMPARE(program.active(), "G/d"_s);
+}
+
+void LayoutsSlotsTest::shortcutsOfTheApplicationStay()
+{
+    Program program;
+    program.slot(2).setShortcut(QKeySequence("F8"_s));
+    program.layouts.setSlotShortcutsEnabled(true);
+    QCOMPARE(shortcutsOf(program.layouts.slotActions()).mid(0, 3),
+             lines({"Ctrl+Alt+1", "F8", "Ctrl+Alt+3"}));
+    program.layouts.setSlotShortcutsEnabled(false);
+    QCOMPARE(shortcutsOf(program.layouts.slotActions()).mid(0, 3), lines({"", "F8", ""}));
+}
+
+void LayoutsSlotsTest::shortcutsAreKept()
+{
+    {
+        Program program;
+        program.layouts.start(path());
+        program.layouts.setSlotShortcutsEnabled(true);
+    }
+    {
+        Program program;
+        program.layouts.start(path());
+        QVERIFY(program.layouts.areSlotShortcutsEnabled());
+        QCOMPARE(program.slot(1).shortcut().toString(), "Ctrl+Alt+1"_s);
+        program.layouts.setSlotShortcutsEnabled(false);
+    }
+    Program program;
+    program.layouts.setSlotShortcutsEnabled(true);
+    program.layouts.start(path());
+    QVERIFY(!program.layouts.areSlotShortcutsEnabled());
+}
+
+void LayoutsSlotsTest::nextAndPreviousGoAround()
+{
+    Program program;
+    QAction& next = *program.layouts.nextAction();
+    QAction& previous = *program.layouts.previousAction();
+    QVERIFY(!next.isEnabled());
+    QVERIFY(!previous.isEnabled());
+    program.manager.createView("z"_s);
+    QVERIFY(next.isEnabled());
+    previous.trigger();
+    QCOMPARE(program.active(), "G/z"_s);
+    QVERIFY(!next.isEnabled());
+    QVERIFY(!previous.isEnabled());
+    program.manager.createView("a"_s);
+    program.manager.createView("m"_s);
+    QVERIFY(next.isEnabled());
+    QStringList visited;
+    for (int i = 0; i < 3; ++i) {
+        next.trigger();
+        visited.append(program.manager.activeView());
+    }
+    QCOMPARE(visited, lines({"a", "m", "z"}));
+    previous.trigger();
+    QCOMPARE(program.active(), "G/m"_s);
+    program.manager.deleteView("m"_s);
+    next.trigger();
+    QCOMPARE(program.active(), "G/z"_s);
+    program.manager.activateGroup("H"_s);
+    QVERIFY(!next.isEnabled());
+}
+
+void LayoutsSlotsTest::nothingIsLeftWithoutTheManager()
+{
+    SmallWindow window;
+    auto manager = std::make_unique<Manager>(QStringList("G"_s), /*mergeOnApply=*/false);
+    Layouts layouts(*manager);
+    layouts.addWindow(window);
+    manager->createView("a"_s);
+    layouts.setSlotShortcutsEnabled(true);
+    manager.reset();
+    QCOMPARE(layouts.slotActions().size(), 9);
+    const QList<QAction*> actions = layouts.slotActions()
+                                    << layouts.nextAction() << layouts.previousAction();
+    for (QAction* action : actions) {
+        QVERIFY(!action->isEnabled());
+        action->setEnabled(true);
+        action->trigger();
+    }
+    layouts.setSlotShortcutsEnabled(false);
+    QVERIFY(!layouts.areSlotShortcutsEnabled());
+}
+
+QTEST_MAIN(LayoutsSlotsTest)
+#include "LayoutsSlotsTest.moc"
