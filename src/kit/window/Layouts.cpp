@@ -27,6 +27,7 @@ Layouts::Layouts(Manager& manager, QObject* parent)
         m_session.reset();
     });
     connect(&m_session->keeper, &Detail::Keeper::message, this, &Layouts::message);
+    connect(&m_session->history, &Detail::History::message, this, &Layouts::message);
     connect(&m_session->transfer, &Detail::Transfer::message, this, &Layouts::message);
 }
 

@@ -11,6 +11,7 @@ Session::Session(Manager& theManager, WindowOwner& theOwner, const Actions& acti
     , activity(manager, owner, stored, giver)
     , windows(owner, giver)
     , keeper(manager, owner, stored, activity, windows)
+    , history(manager, owner, stored, giver, windows)
     , transfer(manager)
     , layoutSlots(manager, stored, windows, keeper, actions)
     , cycle(manager, actions)

@@ -13,6 +13,8 @@
 #include "WindowOwner.h"
 #include "Windows.h"
 
+#include "../history/History.h"
+
 namespace Panorel::Kit::Detail {
 
 struct Actions;
@@ -31,6 +33,7 @@ struct Session
     Activity activity;
     Windows windows;
     Keeper keeper;
+    History history;
     Transfer transfer;
     Slots layoutSlots;
     Cycle cycle;
