@@ -16,6 +16,7 @@ class QDockWidget;
 class QMainWindow;
 class QMenu;
 class QToolButton;
+class QUndoStack;
 class QWidget;
 
 namespace Panorel {
@@ -130,6 +131,13 @@ public:
     QAction* nextAction() const;
     /** The same with the previous one. */
     QAction* previousAction() const;
+
+    /**
+     * Undo and redo of all changes of the layouts and of each switch between them, whoever made
+     * them. Owned by this object. It may be shown in a QUndoView and be added to a QUndoGroup. Its
+     * actions have no shortcuts of their own. Empty without the Manager.
+     */
+    QUndoStack* history() const;
 
     /**
      * Adds the layouts of a file to those that are there, in place of those of the same name, and

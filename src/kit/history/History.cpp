@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "History.h"
 
+#include "../window/Actions.h"
 #include "../window/Giver.h"
 #include "../window/StoredViews.h"
 #include "../window/WindowOwner.h"
@@ -45,18 +46,19 @@ StateMap activeStates(const Snapshot::Group& group)
 } // namespace
 
 History::History(Manager& manager, WindowOwner& owner, StoredViews& stored, Giver& giver,
-                 Windows& windows)
+                 Windows& windows, const Actions& actions)
     : m_manager(manager)
     , m_owner(owner)
     , m_stored(stored)
     , m_giver(giver)
     , m_windows(windows)
-    , m_stack(new QUndoStack(this))
+    , m_stack(actions.history)
 {}
 
 History::~History()
 {
-    delete m_stack;
+    if (m_stack)
+        m_stack->clear();
 }
 
 Snapshot History::snapshot()

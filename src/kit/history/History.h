@@ -18,6 +18,7 @@ class Giver;
 class StoredViews;
 class WindowOwner;
 class Windows;
+struct Actions;
 
 /** Makes changes of a Manager's layouts steps that can be undone and done again. */
 class History : public QObject
@@ -27,12 +28,11 @@ class History : public QObject
 public:
     /** All must outlive this object. */
     History(Manager& manager, WindowOwner& owner, StoredViews& stored, Giver& giver,
-            Windows& windows);
-    /** Leaves the stack empty. */
+            Windows& windows, const Actions& actions);
+    /** Leaves the stack empty, because its steps refer to this object. */
     ~History() override;
 
-    /** The steps. Owned here; it may be in a group and may be deleted at any time, which ends the
-        recording. */
+    /** The steps; null once it is deleted. */
     QUndoStack* stack() const { return m_stack; }
 
     /** All layouts as they are now. The current view of the active group is what the windows show.

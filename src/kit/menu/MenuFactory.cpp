@@ -4,7 +4,10 @@
 #include "ButtonCures.h"
 #include "EntryTexts.h"
 #include "FileEntries.h"
+#include "KitEntries.h"
 #include "NameField.h"
+
+#include "../window/Session.h"
 
 #include <panorel/Manager.h>
 #include <panorel/Menu.h>
@@ -44,23 +47,23 @@ void cure(Menu& menu, Layouts& layouts, Manager& manager)
 
 } // namespace
 
-Menu* MenuFactory::createMenu(Layouts& layouts, Manager& manager, Transfer& transfer,
-                              QWidget* parent)
+Menu* MenuFactory::createMenu(Layouts& layouts, Session& session, QWidget* parent)
 {
-    auto* menu = new Menu(&manager, /*extended=*/true, parent);
+    auto* menu = new Menu(&session.manager, /*extended=*/true, parent);
     menu->setTitle(Text::tr("&Layouts"));
-    cure(*menu, layouts, manager);
-    auto* files = new FileEntries(*menu, transfer);
+    cure(*menu, layouts, session.manager);
+    auto* files = new FileEntries(*menu, session.transfer);
     QObject::connect(files, &FileEntries::message, &layouts, &Layouts::message);
+    new KitEntries(*menu, layouts, session);
     return menu;
 }
 
-ViewButton* MenuFactory::createButton(Layouts& layouts, Manager& manager, QWidget* parent)
+ViewButton* MenuFactory::createButton(Layouts& layouts, Session& session, QWidget* parent)
 {
-    auto* button = new ViewButton(&manager, Text::tr("Layouts"), parent);
+    auto* button = new ViewButton(&session.manager, Text::tr("Layouts"), parent);
     // The button's menu is its child.
-    cure(*static_cast<Menu*>(button->menu()), layouts, manager);
-    new ButtonCures(*button, manager);
+    cure(*static_cast<Menu*>(button->menu()), layouts, session.manager);
+    new ButtonCures(*button, session.manager);
     return button;
 }
 

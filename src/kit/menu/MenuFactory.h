@@ -5,7 +5,6 @@ class QString;
 class QWidget;
 
 namespace Panorel {
-class Manager;
 class Menu;
 class ViewButton;
 } // namespace Panorel
@@ -16,16 +15,16 @@ class Layouts;
 
 namespace Panorel::Kit::Detail {
 
-class Transfer;
+struct Session;
 
 /** Makes the menu and the button of a Layouts, with all cures. */
 namespace MenuFactory {
 
-/** The extended menu. Its messages are emitted by @p layouts. */
-Menu* createMenu(Layouts& layouts, Manager& manager, Transfer& transfer, QWidget* parent);
+/** The extended menu with the kit's own entries. Its messages are emitted by @p layouts. */
+Menu* createMenu(Layouts& layouts, Session& session, QWidget* parent);
 
 /** The button, with a menu that is not extended. */
-ViewButton* createButton(Layouts& layouts, Manager& manager, QWidget* parent);
+ViewButton* createButton(Layouts& layouts, Session& session, QWidget* parent);
 
 } // namespace MenuFactory
 

@@ -2,14 +2,17 @@
 #pragma once
 
 #include <QList>
+#include <QPointer>
+#include <QUndoStack>
 
 class QAction;
 class QObject;
 
 namespace Panorel::Kit::Detail {
 
-/** The actions of a Layouts, which are its children. They do nothing and are disabled until
-    something of its Session uses them, and again once that is gone with the Manager. */
+/** The actions of a Layouts and its history, which are its children. The actions do nothing and are
+   disabled until something of its Session uses them, and again once that is gone with the Manager.
+ */
 struct Actions
 {
     explicit Actions(QObject& owner);
@@ -19,6 +22,8 @@ struct Actions
     QAction* shortcuts;
     QAction* next;
     QAction* previous;
+    /** Null if the application has deleted it. */
+    QPointer<QUndoStack> history;
 };
 
 } // namespace Panorel::Kit::Detail

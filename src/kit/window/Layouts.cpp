@@ -73,8 +73,7 @@ void Layouts::start(const QString& fileName)
 QMenu* Layouts::createMenu(QWidget* parent)
 {
     if (m_session)
-        return Detail::MenuFactory::createMenu(*this, m_session->manager, m_session->transfer,
-                                               parent);
+        return Detail::MenuFactory::createMenu(*this, *m_session, parent);
     auto* menu = new QMenu(parent);
     menu->setEnabled(false);
     return menu;
@@ -83,7 +82,7 @@ QMenu* Layouts::createMenu(QWidget* parent)
 QToolButton* Layouts::createButton(QWidget* parent)
 {
     if (m_session)
-        return Detail::MenuFactory::createButton(*this, m_session->manager, parent);
+        return Detail::MenuFactory::createButton(*this, *m_session, parent);
     auto* button = new QToolButton(parent);
     button->setEnabled(false);
     return button;
@@ -113,6 +112,11 @@ QAction* Layouts::nextAction() const
 QAction* Layouts::previousAction() const
 {
     return m_actions->previous;
+}
+
+QUndoStack* Layouts::history() const
+{
+    return m_actions->history;
 }
 
 bool Layouts::importFile(const QString& fileName, QString* problem)

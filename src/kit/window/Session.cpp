@@ -11,7 +11,7 @@ Session::Session(Manager& theManager, WindowOwner& theOwner, const Actions& acti
     , activity(manager, owner, stored, giver)
     , windows(owner, giver)
     , keeper(manager, owner, stored, activity, windows)
-    , history(manager, owner, stored, giver, windows)
+    , history(manager, owner, stored, giver, windows, actions)
     , transfer(manager)
     , layoutSlots(manager, stored, windows, keeper, actions)
     , cycle(manager, actions)
