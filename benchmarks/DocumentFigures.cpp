@@ -107,7 +107,7 @@ Figure reading(const std::shared_ptr<Stage>& stage, bool merge)
 {
     const int viewCount = stage->viewCount();
     Figure figure;
-    figure.name = merge ? QStringLiteral("fromXml over the old") : QStringLiteral("fromXml anew");
+    figure.name = merge ? QStringLiteral("fromXml, merging") : QStringLiteral("fromXml, replacing");
     figure.goal = 1.04;
     figure.subject = [stage, merge] { (void)stage->manager.fromXml(stage->document, merge); };
     figure.baseline = [stage] { (void)readBare(*stage); };
