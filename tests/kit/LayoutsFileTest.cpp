@@ -9,6 +9,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLockFile>
 #include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -65,6 +66,8 @@ private Q_SLOTS:
     void whatOthersDeletedGoes();
     void aFailureIsToldOnceAndRetried();
     void windowsThatNeverCameKeepTheirPart();
+    void aLockOfNobodyIsRemoved();
+    void theLockOfAnotherIsLeftAlone();
 
 private:
     QString path(const char* name) const { return m_folder->filePath(QString::fromLatin1(name)); }
@@ -340,6 +343,30 @@ void LayoutsFileTest::windowsThatNeverCameKeepTheirPart()
     Program program(path("f.views"));
     QCOMPARE(program.manager.views(), QStringList("changed"_s));
     QCOMPARE(program.window.dockArea(), Qt::RightDockWidgetArea);
+}
+
+// A program leaves an empty lock if it is killed after making the file and before writing into it.
+void LayoutsFileTest::aLockOfNobodyIsRemoved()
+{
+    write("f.views.lock", QByteArray());
+    Program program(path("f.views"));
+    program.manager.createView("a"_s);
+    QVERIFY(program.layouts.save());
+    QVERIFY(!QFile::exists(path("f.views.lock")));
+}
+
+void LayoutsFileTest::theLockOfAnotherIsLeftAlone()
+{
+    Program program(path("f.views"));
+    program.manager.createView("a"_s);
+    QLockFile other(path("f.views.lock"));
+    QVERIFY(other.lock());
+    const QByteArray owner = contentOf("f.views.lock");
+    QVERIFY(!owner.isEmpty());
+    // It waits for longer than it takes a lock to be old, and then saves all the same.
+    QVERIFY(program.layouts.save());
+    QCOMPARE(contentOf("f.views.lock"), owner);
+    QVERIFY(contentOf("f.views").contains("Name=\"a\""));
 }
 
 QTEST_MAIN(LayoutsFileTest)

@@ -14,7 +14,9 @@ namespace Panorel::Kit::Detail {
 namespace {
 
 constexpr int copies = 3;
+// In milliseconds.
 constexpr int patience = 2000;
+constexpr int oldLock = 500;
 
 QByteArray contentOf(const QString& name)
 {
@@ -42,6 +44,9 @@ QString Storage::readableName() const
 Storage::Lock::Lock(const Storage& storage)
     : m_file(storage.m_fileName + QStringLiteral(".lock"))
 {
+    // A program that was killed at the wrong moment leaves a lock that does not say whose it is.
+    // Age alone does not take a lock from a program that runs, which holds the open file as well.
+    m_file.setStaleLockTime(oldLock);
     (void)m_file.tryLock(patience); // Without the folder's rights there is no lock at all.
 }
 
