@@ -20,6 +20,8 @@ namespace Panorel::Tests::Ends {
 namespace {
 
 const QRect firstPlace(420, 260, 230, 140);
+// In milliseconds, for what a window manager does on a busy machine.
+constexpr int patience = 60000;
 
 QList<QMainWindow*> mainWindows()
 {
@@ -49,7 +51,7 @@ void floatDocks()
         dock->setFloating(true);
         dock->setGeometry(firstPlace);
         dock->show();
-        if (!QTest::qWaitForWindowExposed(dock))
+        if (!QTest::qWaitForWindowExposed(dock, patience))
             qFatal("the dock widget is not shown");
     }
 }
@@ -152,13 +154,28 @@ void closeAndQuitLater()
     QTimer::singleShot(0, [] { QCoreApplication::quit(); });
 }
 
+// Has xdotool act as mouse or keyboard on the first main window, until the program ends: what comes
+// while the window manager is busy may be lost.
 void useMouseOrKeys(const QStringList& arguments)
 {
-    QMainWindow* window = mainWindows().constFirst();
-    window->activateWindow();
-    if (!QTest::qWaitForWindowActive(window) ||
-        !QProcess::startDetached(QStringLiteral("xdotool"), arguments))
-        qFatal("the window cannot be closed");
+    // The dock widget was shown last and may become active later than Qt hears that the window is.
+    const QString window = QString::number(mainWindows().constFirst()->winId());
+    const QStringList all =
+        QStringList{QStringLiteral("windowactivate"), QStringLiteral("--sync"), window} + arguments;
+    // As a child, because the window of the next program may get the same number.
+    auto* xdotool = new QProcess(qApp);
+    QObject::connect(xdotool, &QProcess::errorOccurred, [](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart)
+            qFatal("xdotool cannot be started");
+    });
+    const auto act = [xdotool, all] {
+        if (xdotool->state() == QProcess::NotRunning)
+            xdotool->start(QStringLiteral("xdotool"), all);
+    };
+    auto* timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, act);
+    timer->start(2000);
+    act();
 }
 
 void pressAltF4()
@@ -168,11 +185,18 @@ void pressAltF4()
 
 void clickCloseButton()
 {
-    // The last button of openbox in the title bar.
     const QMainWindow* window = mainWindows().constFirst();
-    const QPoint corner = window->frameGeometry().topRight() + QPoint(-11, 11);
-    const QString arguments = QStringLiteral("mousemove --sync %1 %2 click 1");
-    useMouseOrKeys(arguments.arg(corner.x()).arg(corner.y()).split(QLatin1Char(' ')));
+    const QWindow* handle = window->windowHandle();
+    const auto hasTitleBar = [handle] { return handle->frameMargins().top() > 0; };
+    if (!QTest::qWaitFor(hasTitleBar, patience))
+        qFatal("the window has no title bar");
+    // The last button of openbox there. Relative to the window, for Qt may not know where it is.
+    const QPoint corner(window->width() + handle->frameMargins().right(),
+                        -handle->frameMargins().top());
+    const QPoint button = corner + QPoint(-11, 11);
+    const QString arguments = QStringLiteral("mousemove --window %1 -- %2 %3 click 1");
+    useMouseOrKeys(
+        arguments.arg(window->winId()).arg(button.x()).arg(button.y()).split(QLatin1Char(' ')));
 }
 
 // The session manager that runs this program waits for the line.
@@ -220,22 +244,27 @@ bool areBack()
     // On X11, Qt may take the window for one at (0, 0) if its manager answers late.
     const bool isPlaceKnown = QGuiApplication::platformName() == QLatin1String("offscreen");
     const QList<QDockWidget*> all = docks();
-    return QTest::qWaitFor([&] {
-        return std::all_of(all.begin(), all.end(), [&](const QDockWidget* dock) {
-            return dock->isFloating() && dock->isVisible() && dock->size() == firstPlace.size() &&
-                   (!isPlaceKnown || dock->geometry() == firstPlace);
-        });
-    });
+    return QTest::qWaitFor(
+        [&] {
+            return std::all_of(all.begin(), all.end(), [&](const QDockWidget* dock) {
+                return dock->isFloating() && dock->isVisible() &&
+                       dock->size() == firstPlace.size() &&
+                       (!isPlaceKnown || dock->geometry() == firstPlace);
+            });
+        },
+        patience);
 }
 
 bool areClosed()
 {
     const QList<QDockWidget*> all = docks();
-    return QTest::qWaitFor([&all] {
-        return std::all_of(all.begin(), all.end(), [](const QDockWidget* dock) {
-            return dock->isFloating() && !dock->isVisible();
-        });
-    });
+    return QTest::qWaitFor(
+        [&all] {
+            return std::all_of(all.begin(), all.end(), [](const QDockWidget* dock) {
+                return dock->isFloating() && !dock->isVisible();
+            });
+        },
+        patience);
 }
 
 } // namespace Panorel::Tests::Ends

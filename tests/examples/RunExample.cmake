@@ -20,7 +20,7 @@ foreach(use IN LISTS USES ITEMS "${last}")
     if(use MATCHES "^end[.]endSession")
         set(command "${SESSION_MANAGER}" "${PROGRAM}")
     endif()
-    execute_process(COMMAND ${command} WORKING_DIRECTORY "${FOLDER}" TIMEOUT 60
+    execute_process(COMMAND ${command} WORKING_DIRECTORY "${FOLDER}" TIMEOUT 120
         RESULT_VARIABLE result)
     if(NOT result EQUAL 0)
         message(FATAL_ERROR "${use}: ${result}")
