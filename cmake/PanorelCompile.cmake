@@ -39,7 +39,7 @@ function(panorel_compile_settings target)
         target_compile_options(${target} PRIVATE -Wno-gnu-zero-variadic-macro-arguments)
     endif()
     if(PANOREL_BUILD_FUZZERS)
-        # Everything is instrumented, for a fuzzer is led by the branches that its inputs take.
+        # Everything is instrumented, because a fuzzer follows the branches that its inputs take.
         set(sanitizers -fsanitize=fuzzer-no-link,address,undefined)
         target_compile_options(${target} PRIVATE ${sanitizers} -fno-sanitize-recover=all
             -fno-omit-frame-pointer)
@@ -47,7 +47,7 @@ function(panorel_compile_settings target)
     endif()
 endfunction()
 
-# clang-tidy takes its settings from the folder of the file it reads. Nobody can mend what moc writes
+# clang-tidy takes its settings from the folder of the file it reads. Nobody can fix what moc writes
 # into the build folder, so a single check, which cannot fire in Qt code, is all that runs there.
 if(CMAKE_CXX_CLANG_TIDY)
     file(WRITE "${PROJECT_BINARY_DIR}/.clang-tidy" "Checks: '-*,llvm-twine-local'\n")

@@ -43,9 +43,9 @@ set(version "${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}")
 set(library libpanorel${PROJECT_VERSION_MAJOR})
 set(kit libpanorelkit${PROJECT_VERSION_MAJOR})
 
-set(about "Panorel lets the users of a Qt 5 application keep where the dock widgets
-and tool bars of its main windows stand, under names and in groups, and
-switch between them.")
+set(about "Panorel lets the users of a Qt 5 application save the layouts of its
+main windows under names and in groups, and switch between them: where the
+dock widgets and tool bars are.")
 # One package. Its dependencies on Qt are found by dpkg-shlibdeps, if it has programs or libraries;
 # DEPENDS are those on packages of this project and what else it takes.
 function(panorel_debian_package component name section summary description)

@@ -69,8 +69,8 @@ QStringList shortenedLanguages(const QString& language)
     return shortened;
 }
 
-// The texts in the code are English: nothing that the user likes less is wanted instead. A "C" is
-// no wish for them, for Qt puts it beside each language that it does not know.
+// The texts in the code are English: nothing that the user likes less is wanted instead. A "C" does
+// not ask for them, because Qt adds it to each language that it does not know.
 bool isSourceLanguage(const QString& language)
 {
     return language == QLatin1String("en");

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Measures how Qt's own restoreState() bears damaged states, and how well check() finds those that
-// it does not bear:
+// Measures what Qt's own restoreState() does with damaged states, and how well check() finds those
+// that crash it:
 //
 //     DamageBlobs [--all] [<count> [<seed>]] <folder>...
 //

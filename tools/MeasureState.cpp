@@ -31,7 +31,7 @@ QTextStream& output()
     return stream;
 }
 
-/** In mebibytes; -1 where it cannot be told. */
+/** In mebibytes; -1 if unknown. */
 double peakMemory()
 {
 #ifdef Q_OS_LINUX

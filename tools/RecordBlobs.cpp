@@ -214,7 +214,7 @@ void floatingTabs(QMainWindow& window)
     stream << quint8(0xFA) << qint32(1) << quint8(Qt::Horizontal) << qint32(2);
     for (const char* const name : {"First", "Second"})
         stream << quint8(0xFB) << text(name) << quint8(1) << QRect(0, 0, 201, 0);
-    // The group stands before the tool-bar section, here an empty one: a marker and a count.
+    // The group comes before the tool-bar section, here an empty one: a marker and a count.
     QByteArray state = window.saveState();
     state.insert(state.size() - 5, group);
     if (!window.restoreState(state))
@@ -254,7 +254,8 @@ const Case cases[] = {
     {"rejected/floating-tabs", &floatingTabs},
 };
 
-/** The window and what floats above it, in few colours, for a picture is kept for each blob. */
+/** The window and what floats above it, in few colours, because there is a picture for each blob.
+ */
 QImage picture(QMainWindow& window)
 {
     QImage image(window.size(), QImage::Format_RGB32);

@@ -173,7 +173,7 @@ public:
     }
 
 private:
-    // What is in a refused document cannot be told; why it is refused is said instead.
+    // The content of a refused document is unknown; the reason for refusing it is printed instead.
     bool isChoiceThere(const Input& input) const
     {
         return (input.isDocument() && !input.document.isReadable()) || exists(m_choice, input);

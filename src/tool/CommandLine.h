@@ -43,7 +43,7 @@ public:
     QString help() const;
     QStringList files() const { return m_parser.positionalArguments(); }
     bool isSet(const QString& name) const { return m_parser.isSet(name); }
-    /** Null if the option is not there, so that an empty name can be told from none. */
+    /** Null if the option is not there, so that an empty name differs from none. */
     QString value(const QString& name) const;
     QStringList values(const QString& name) const { return m_parser.values(name); }
 

@@ -282,7 +282,7 @@ QString titleOf(const CommandLine& line, const QString& option)
     return place.title();
 }
 
-// Two layouts of one file are told from each other by their own names.
+// Two layouts of one file are distinguished by their own names.
 void print(const CommandLine& line, const Result& result, const Input& a, const Input& b)
 {
     if (line.files().size() == 1)

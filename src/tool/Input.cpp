@@ -73,7 +73,7 @@ QVector<Place> placesOf(const SettingsStates& settings)
     return places;
 }
 
-// Nothing, after a message, for a value that is no number.
+// Nothing, after a message, if the value is not a number.
 std::optional<qint64> readLimit(const CommandLine& line)
 {
     if (!line.isSet(limitOption))

@@ -67,7 +67,7 @@ QVector<Block> blocksOf(const QDir& root, const QString& page)
     return blocks;
 }
 
-// The pieces of a source file: what stands between two lines "//! [name]", or "#! [name]" in CMake.
+// The pieces of a source file: what is between two lines "//! [name]", or "#! [name]" in CMake.
 QVector<Block> piecesOf(const QString& fileName)
 {
     static const QRegularExpression marker("^\\s*(?://|#)! \\[([a-z-]+)\\]$"_s);

@@ -18,7 +18,7 @@ namespace {
 
 const QString mine = QStringLiteral("Mine");
 
-// Every size that a round of restoring and saving anew gives the window's blob.
+// Every size that a round of restoring and saving again gives the window's blob.
 QVector<int> sizesInRounds(QMainWindow& window, Manager& manager, int rounds)
 {
     QVector<int> sizes;

@@ -49,7 +49,7 @@ QDockWidget* makeDock(const QString& name)
     return dock;
 }
 
-// The document of a window whose dock widget "plugin" stands on the right, saved as "Mine".
+// The document of a window whose dock widget "plugin" is on the right, saved as "Mine".
 QByteArray documentWithPlugin()
 {
     EditorWindow window;
@@ -210,7 +210,7 @@ void NamesTest::thePlaceIsKeptByRunsWithoutTheDock()
     {
         LaterRun run(document, mergeOnApply);
         QVERIFY(run.isLoaded);
-        run.manager.saveCurrentViewAs("Mine"_s); // Saved anew, without the dock widget.
+        run.manager.saveCurrentViewAs("Mine"_s); // Saved again, without the dock widget.
         document = run.manager.toXml(/*markActive=*/true);
     }
     LaterRun run(document, mergeOnApply);

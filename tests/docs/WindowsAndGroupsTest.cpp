@@ -102,7 +102,7 @@ void WindowsAndGroupsTest::aWindowThatIsClosedKeepsItsPlaceInTheView()
     windows.plot = new EditorWindow;
     QVERIFY(manager.activateView("Mine"_s));
     QCOMPARE(areaOf(*windows.plot, "output"_s), Qt::RightDockWidgetArea);
-    // Only saving anew under its name drops it.
+    // Only saving again under its name drops it.
     delete windows.plot;
     manager.saveCurrentViewAs("Mine"_s);
     windows.plot = new EditorWindow;

@@ -40,7 +40,7 @@ QByteArray anything(int levels)
 // Which leaves the look at the markup to Qt's reader.
 const QByteArray unclear = "<!DOCTYPE a [<!ATTLIST b c:d CDATA ''>]>";
 
-// Entities of which each stands for ten of the one before; the first is @p seed.
+// Entities of which each expands to ten of the one before; the first is @p seed.
 QByteArray entities(int levels, const QByteArray& seed)
 {
     QByteArray declarations = "<!ENTITY e0 \"" + seed + "\">";

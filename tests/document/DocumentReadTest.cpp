@@ -13,7 +13,7 @@ using namespace Panorel::Tests;
 
 namespace {
 
-// What stands between <View ...> or <CurrentView ...> of @p name and its end, without white space
+// What is between <View ...> or <CurrentView ...> of @p name and its end, without white space
 // between elements; null if it is not there.
 QByteArray content(const QByteArray& data, const QByteArray& name)
 {

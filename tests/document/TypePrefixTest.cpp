@@ -13,7 +13,7 @@ QByteArray declared(const QByteArray& prefix, const QByteArray& uri)
     return " xmlns:" + prefix + "=\"" + uri + '"';
 }
 
-// A document with a State and a UserData that bear @p onState and @p onUserData, and further
+// A document with a State and a UserData that have @p onState and @p onUserData, and further
 // attributes on the view and the root.
 QByteArray typed(const QByteArray& onState, const QByteArray& onUserData = {},
                  const QByteArray& onView = {},
@@ -58,7 +58,7 @@ void TypePrefixTest::declaredPrefixIsAccepted_data()
     row("after the type, with blanks around it", typed({}, "xsi:type=\" xs:string \"" + xs));
     row("declared again further in and ended",
         typed("xsi:type=\"state\"" + xs, "xsi:type=\"xs:string\"", {}, xsi + xs));
-    row("declared anew beside a schema hint",
+    row("declared again beside a schema hint",
         "<ViewData" + declared("q", instanceNamespace) + declared("p", instanceNamespace) +
             " p:noNamespaceSchemaLocation=\"a\" Version=\"1.1.0\"><Groups><Group Name=\"A\">"
             "<Views><View Name=\"v\"><UserData" +

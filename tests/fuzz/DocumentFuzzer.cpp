@@ -7,7 +7,7 @@
 // - merging keeps all views in their places, overlays those that the document names, appends the
 //   others in the document's order, and moves an active view only where the document marks one;
 // - the document that toXml() then gives is accepted, and the one after it is a fixed point.
-// There are no windows, for Qt's own reader of window states does not withstand all that may come
+// There are no windows, because Qt's own reader of window states may crash on what comes
 // here. A validation takes milliseconds, so each document is refused in one of the modes only.
 
 #include "Fuzz.h"

@@ -16,7 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
 namespace Panorel::Tests {
 
-/** What was being done, for the message of a violation. */
+/** What was being done, to be named in the message of a violation. */
 inline QString context;
 
 [[noreturn]] inline void fail(const char* property, const QString& detail = QString())
@@ -47,7 +47,7 @@ void requireSame(const Text& actual, const Text& expected, const char* property)
         fail(property, QString::fromUtf8("Is:\n%1\nShould be:\n%2").arg(actual, expected));
 }
 
-/** From now on whatever is logged is a violation, for the library logs nothing. */
+/** From now on whatever is logged is a violation, because the library logs nothing. */
 inline void forbidMessages()
 {
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& message) {

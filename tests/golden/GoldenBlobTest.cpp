@@ -15,7 +15,7 @@
 namespace Panorel::Tests {
 
 /**
- * Blobs that programs of several Qt versions wrote: what each holds stands beside it, as a text and
+ * Blobs that programs of several Qt versions wrote: what each holds is beside it, as a text and
  * as a picture, and stays true for ever. Every file below tests/data/blobs is a case.
  */
 class GoldenBlobTest : public QObject

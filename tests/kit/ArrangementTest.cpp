@@ -35,7 +35,8 @@ void ArrangementTest::sameSeedSameArrangement()
     }
 }
 
-// 500 seeds bring all that states tell of, or tests that walk over them test less than they say.
+// 500 seeds produce all that states can hold; otherwise tests that use them test less than they
+// say.
 void ArrangementTest::everyKindIsThere()
 {
     std::set<QString> kinds;

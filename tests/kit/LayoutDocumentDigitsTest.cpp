@@ -11,7 +11,7 @@ using namespace Panorel;
 using namespace Panorel::Kit;
 using namespace Panorel::Tests;
 
-/** Digits of states are told from what looks like them, in each encoding. */
+/** Digits of states are distinguished from what looks like them, in each encoding. */
 class LayoutDocumentDigitsTest : public QObject
 {
     Q_OBJECT

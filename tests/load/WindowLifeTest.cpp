@@ -165,7 +165,7 @@ void WindowLifeTest::destroyedByAnotherWindowsRestoring()
     m_first->onPlaced = nullptr;
 }
 
-// The list is asked for anew by each capture and each restore, so each may meet another window.
+// Each capture and each restore asks for the list again, so each may meet another window.
 void WindowLifeTest::listThatChangesBetweenCalls()
 {
     QFETCH(bool, merge);
@@ -225,7 +225,7 @@ void WindowLifeTest::nameThatChangesDuringTheCall_data()
     QTest::addRow("saved, by a receiver") << true << false;
 }
 
-// A caller may hand in an element of a list that it fills anew when views change.
+// A caller may hand in an element of a list that it fills again when views change.
 void WindowLifeTest::nameThatChangesDuringTheCall()
 {
     QFETCH(bool, save);

@@ -210,7 +210,7 @@ void ManagerMergeTest::blobBrokenInItsBars()
     const QByteArray whole = SmallWindow::stateOf(Qt::RightDockWidgetArea, Qt::BottomToolBarArea);
     Manager manager(lines({"G"}), true);
     manager.registerManagable(m_owner);
-    // The docks stand before the bars, so they are still read.
+    // The docks come before the bars, so they are still read.
     apply(manager, {{"w"_s, whole.chopped(1)}});
     QCOMPARE(m_window.dockArea(), Qt::RightDockWidgetArea);
     QCOMPARE(m_window.barArea(), Qt::TopToolBarArea);

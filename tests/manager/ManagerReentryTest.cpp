@@ -325,7 +325,7 @@ void ManagerReentryTest::switchGroupInSwitch()
     });
     QCOMPARE(manager.activateGroup("H"_s), true);
     QCOMPARE(manager.activeGroup(), "G"_s);
-    // The last one is the outer call's and tells of the group it had found.
+    // The last one is the outer call's and names the group it had found.
     QCOMPARE(log.lines(), lines({"groupActivated('H')", "groupActivated('G')", "viewActivated('g')",
                                  "viewActivated(null)"}));
 }

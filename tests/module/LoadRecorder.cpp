@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 
-// Linked before everything else, this library takes the place of the translation service and stands
-// before Qt's resource registration. It prints, in the order in which they come, the calls that a
-// library of ours makes when it is loaded and unloaded.
+// Linked before everything else, this library takes the place of the translation service and of
+// Qt's resource registration. It prints, in their order, the calls that a library of ours makes
+// when it is loaded and unloaded.
 
 #include <QByteArray>
 #include <QString>

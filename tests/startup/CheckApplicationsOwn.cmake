@@ -18,7 +18,7 @@ function(run)
 endfunction()
 
 function(configure source name prefix_path)
-    # Escaped, for the list is one argument.
+    # Escaped, because the list is one argument.
     list(JOIN prefix_path "\\;" prefix_path)
     run("${CMAKE_COMMAND}" -S "${source}" -B "${FOLDER}/${name}" ${OPTIONS}
         "-DCMAKE_PREFIX_PATH=${prefix_path}" ${ARGN})

@@ -247,7 +247,7 @@ void TranslationCenterTest::followsTheApplication_data()
     row("second application without it",
         "register:Panorel app end-app unregister:Panorel app text events", "Layouts");
     row("second application, registered between", "app end-app register:Panorel app text", "one");
-    row("second application, registered anew",
+    row("second application, registered again",
         "app register:Panorel end-app unregister:Panorel register:Panorel app text", "one");
     row("second application ends unregistration",
         "register:Panorel app unregister:Panorel "
@@ -323,7 +323,7 @@ void TranslationCenterTest::tellsTheWidgets()
     QVERIFY(tree.isValid());
     QVERIFY(tree.add(QStringLiteral("bin/panorel_de.qm=one")));
     QVERIFY(tree.add(QStringLiteral("bin/first_de.qm=two")));
-    // How often Qt tells of one change is its own business.
+    // How often Qt announces one change is not specified.
     QStringList words = tree.run(QStringLiteral("de"), steps).split(QLatin1Char(' '));
     words.removeDuplicates();
     QCOMPARE(words.join(QLatin1Char(' ')), output);

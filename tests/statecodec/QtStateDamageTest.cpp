@@ -40,7 +40,7 @@ private:
 
 namespace {
 
-/** Counts the blobs tried, and tells of the first that the two readers disagree about. */
+/** Counts the blobs tried, and reports the first that the two readers disagree about. */
 class Comparison
 {
 public:

@@ -62,7 +62,7 @@ int depthOf(const Block& block)
     return depth;
 }
 
-/** The record that blobs of one block stand in. */
+/** The record that contains blobs of one block. */
 QByteArray around(const QByteArray& block)
 {
     return soundHead().dockSection(1).dock(0, 10, 20).raw(block).dockTail().blob();

@@ -131,8 +131,8 @@ void QtStateRecordedTest::floatingTabGroupEndsTheReading_data()
     QTest::addRow("Qt 6") << QFINDTESTDATA("../data/blobs/qt6/rejected/floating-tabs.blob");
 }
 
-// The group's marker 0xF9 is no section's. The dock areas stand before it and stay; the tool bars
-// follow it and are lost.
+// The group's marker 0xF9 is not that of a section. The dock areas come before it and stay; the
+// tool bars follow it and are lost.
 void QtStateRecordedTest::floatingTabGroupEndsTheReading()
 {
     QFETCH(QString, fileName);

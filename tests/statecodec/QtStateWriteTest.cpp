@@ -64,7 +64,7 @@ Block& addBlock(QtState& state)
     return dock.block;
 }
 
-/** What stands around the block of addBlock() in an otherwise empty value. */
+/** What is around the block of addBlock() in an otherwise empty value. */
 QByteArray around(const BlobBuilder& block)
 {
     BlobBuilder blob = BlobBuilder().head(-1, -1).dockSection(1).dock(0, 0, 0);

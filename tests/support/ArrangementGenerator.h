@@ -26,7 +26,7 @@ public:
     /** What an arrangement may hold beside docked dock widgets and tabs. */
     enum Content { Everything, WithoutFloatingTabs };
 
-    /** The parts alone, all in their first places, for a state to be restored. */
+    /** The parts alone, all in their first places, to restore a state in. */
     ArrangedWindow(int docks, int bars)
     {
         resize(900, 700);

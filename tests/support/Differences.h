@@ -96,7 +96,7 @@ QString listDifference(const char* name, const std::vector<T>& actual,
 
 inline QString difference(const Block& actual, const Block& expected);
 
-/** Name and flags are compared of dock widgets only, for a nested item carries none. */
+/** Name and flags are compared of dock widgets only, because a nested item has none. */
 inline QString difference(const DockItem& actual, const DockItem& expected)
 {
     QString own =

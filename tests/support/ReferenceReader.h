@@ -12,7 +12,7 @@ namespace Panorel::Tests {
 enum class Records {
     /** Each record holds the items of those before it in its section, as QtState::read() gives. */
     Accumulated,
-    /** Each record holds what stands in it, as Qt means it. */
+    /** Each record holds only its own items, as Qt means it. */
     AsStored,
 };
 

@@ -73,7 +73,7 @@ QRegularExpression layoutWord(const QString& language)
     return QRegularExpression(stem, QRegularExpression::CaseInsensitiveOption);
 }
 
-// Whether the English text, or what it stands for, is about layouts.
+// Whether the English text, or what it means, is about layouts.
 bool saysLayout(const QString& source)
 {
     return source.contains(QLatin1String("layout"), Qt::CaseInsensitive) ||

@@ -116,7 +116,7 @@ void InstalledCatalogueTest::entries()
     for (const QString& source : sources)
         expected.append(catalogue.translation(QStringLiteral("Panorel::Menu"), source));
     QStringList lines;
-    // Named in full, for a bare "pt" is Brazil's to Qt.
+    // Named in full, because Qt takes a bare "pt" for Brazil's.
     runProgram(catalogue.language(), QStringLiteral("C.UTF-8"), lines);
     if (!QTest::currentTestFailed())
         QCOMPARE(lines, expected);

@@ -67,7 +67,7 @@ bool open(QMenu& menu)
 bool openSubMenu(QMenu& menu, QMenu& subMenu)
 {
     click(menu, subMenu.menuAction());
-    // It opens a little later than the click, for the mouse may just pass over the title.
+    // It opens a little after the click, because the mouse may just pass over the title.
     return QTest::qWaitFor([&] { return subMenu.isVisible(); }) &&
            QTest::qWaitForWindowExposed(&subMenu);
 }

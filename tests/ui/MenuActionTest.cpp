@@ -158,7 +158,7 @@ void MenuActionTest::chooseInTheMenuBar()
 
 void MenuActionTest::chooseTheCheckedView()
 {
-    // An exclusive group keeps the mark on a checked entry, and tells of the choice all the same.
+    // An exclusive group keeps the mark on a checked entry, but emits its signal.
     QVERIFY(Hands::open(*m_menu));
     Hands::click(*m_menu, viewEntries(*m_menu).at(0));
     QCOMPARE(m_signals->take(), lines({"viewActivated('left')"}));

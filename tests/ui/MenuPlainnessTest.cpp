@@ -37,7 +37,7 @@ private:
 
 namespace {
 
-// Where an action stands and what its menu is come by themselves.
+// Except the place of an action and its menu, which follow from adding it.
 QStringList actionDifferences(const QAction* action, const QAction& plain)
 {
     QStringList names = differences(*action, plain);
@@ -67,7 +67,7 @@ void MenuPlainnessTest::cleanup()
 void MenuPlainnessTest::menu()
 {
     QMenu plain("Layouts"_s);
-    // The same entries, for the size and what follows from it.
+    // The same entries, because the size depends on them.
     plain.addActions(m_menu->actions());
     QCOMPARE(widgetDifferences(*m_menu, plain), QStringList());
 }

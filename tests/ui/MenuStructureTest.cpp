@@ -14,7 +14,7 @@
 using namespace Panorel;
 using namespace Panorel::Tests;
 
-/** What stands where in the menu, who owns it, and what it carries. */
+/** The entries of the menu: their order, owners and data. */
 class MenuStructureTest : public QObject
 {
     Q_OBJECT
@@ -239,7 +239,7 @@ void MenuStructureTest::laterFontsDoNotReachTheEntries()
 
 void MenuStructureTest::skippedViewUnknownToTheManager()
 {
-    // The Manager tells of no user data, so even a view that was read with "true" is not skipped.
+    // The Manager returns no user data, so even a view that was read with "true" is not skipped.
     Manager manager({"G"_s}, false);
     QVERIFY(manager.fromXml(R"(<ViewData Version="1.1.0"><Groups><Group Name="G">
         <Views><View Name="a"><UserData>true</UserData></View></Views>

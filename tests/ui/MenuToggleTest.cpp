@@ -166,7 +166,7 @@ void MenuToggleTest::userDataOfTheMoment()
     Manager manager({"G"_s}, false);
     setUp(manager, "abc"_s, 0);
     Menu menu(&manager, false, nullptr);
-    // No signal tells of it, so the look stays; the walk asks anew.
+    // There is no signal for it, so the look stays; the walk asks again.
     reportedUserData().insert("b"_s, true);
     QCOMPARE(entries(menu).mid(0, 3), lines({"* a", "b", "c"}));
     SignalLog signalLog(manager);

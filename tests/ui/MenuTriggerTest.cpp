@@ -41,7 +41,7 @@ private Q_SLOTS:
     void entriesThatAreNotTriggeredAreDeletedAtOnce();
 
 private:
-    // The texts of all actions that the menu bar and the menus were told of.
+    // The texts of all actions that the menu bar and the menus were notified of.
     void follow(QMenu* menu);
     void follow(QMenuBar* bar);
 

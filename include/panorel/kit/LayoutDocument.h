@@ -124,7 +124,7 @@ public:
     /** What differs between two documents, see differences(). */
     struct Differences
     {
-        /** A view; null stands for the current view of a group that the other document lacks. */
+        /** A view; null means the current view of a group that the other document lacks. */
         struct Place
         {
             /** The name of the group. */

@@ -101,7 +101,7 @@ public:
     /**
      * Makes a menu: a Panorel::Menu with all entries, with a field for new names that is ready for
      * typing, names as they are, and exports and imports that damage no file and refuse what is not
-     * sound. What is done is told by message(). Any number can be made; each may outlive this
+     * sound. message() reports what is done. Any number can be made; each may outlive this
      * object and the Manager, and is disabled without the latter.
      * @param parent deletes the menu; may be null.
      */
@@ -164,7 +164,7 @@ public:
     QStringList check() const;
 
 Q_SIGNALS:
-    /** One sentence for the user, such as for a status bar. A problem() is told once. */
+    /** One sentence for the user, such as for a status bar. A problem() is reported once. */
     void message(const QString& text);
 
 private:

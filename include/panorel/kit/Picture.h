@@ -73,9 +73,9 @@ public:
     explicit Picture(const WindowState& state, const QSize& size = QSize());
 
     /** The size of the window that wrote @p state, as far as it says: without the status bar, and
-        with the menu bar only if the stored positions tell of it. 640 x 480 and what the tool bars
-        need if no size is stored, because the window was never shown; empty for a state that is not
-        readable. */
+        with the menu bar only if the stored positions allow for it. 640 x 480 and what the tool
+       bars need if no size is stored, because the window was never shown; empty for a state that is
+       not readable. */
     static QSize windowSize(const WindowState& state);
 
     /** The size of the whole picture: the window, and beside it what floats outside. */

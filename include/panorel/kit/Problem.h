@@ -24,7 +24,7 @@ enum class ProblemCode {
     DockArea,
     /** Harmful: the bytes do not parse to their end. */
     Malformed,
-    /** Harmful: blocks nested deeper than Qt's recursion bears, see Limits::nesting. */
+    /** Harmful: blocks nested deeper than Qt's recursion can handle, see Limits::nesting. */
     Nesting,
     /** Harmful: repeated items describe more than a window can have, see Limits::items. */
     Size,

@@ -58,7 +58,7 @@ public:
         /** Its side of the window; NoDockWidgetArea inside a floating tab group, and for a side
             that does not exist. */
         Qt::DockWidgetArea area = Qt::NoDockWidgetArea;
-        /** False for a closed one. A page behind another of its tab group is visible. */
+        /** False for a closed one. A page that another one of its tab group covers is visible. */
         bool isVisible = false;
         /** Whether it is a window of its own. Like QDockWidget::isFloating(), false inside a
             floating tab group. */
@@ -107,8 +107,8 @@ public:
     /** Of what one state may at most consist before check() calls it harmful. */
     struct Limits
     {
-        /** Levels of nested blocks that QMainWindow::restoreState() bears; tabs count as two. Many
-            deep blocks have a lower limit together. */
+        /** Levels of nested blocks that QMainWindow::restoreState() can handle; tabs count as two.
+           Many deep blocks have a lower limit together. */
         int nesting;
         /** Items that a window can be made of, as merging spells them out: each dock record and
             line of tool bars has those of the ones before it. Merging's own repeats in a state
@@ -155,7 +155,8 @@ public:
     QVector<ToolBar> toolBars() const;
     /** The floating tab groups in stored order. */
     QVector<FloatingTabs> floatingTabs() const;
-    /** How many items bear a name that came before in their section: dock widgets and tool bars. */
+    /** How many items have a name that occurred before in their section: dock widgets and tool
+     * bars. */
     int repeats() const;
 
     /** All that is wrong or worth knowing, in the order of the bytes. */

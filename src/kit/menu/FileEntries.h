@@ -20,7 +20,7 @@ namespace Panorel::Kit::Detail {
 /**
  * Puts actions of its own in the place of a menu's "Export ...", "Import ..." and "Import & Merge
  * ...". They ask for files in the same way, never damage the file that was there, refuse what is
- * not a document of layouts, and tell the result.
+ * not a document of layouts, and report the result.
  */
 class FileEntries : public QObject
 {
@@ -34,7 +34,7 @@ public:
     FileEntries(Menu& menu, Transfer& transfer);
 
 Q_SIGNALS:
-    /** Why nothing was done, in words. What is done is told by Transfer::message(). */
+    /** Why nothing was done, in words. Transfer::message() reports what is done. */
     void message(const QString& text);
 
 private:

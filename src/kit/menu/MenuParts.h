@@ -40,7 +40,7 @@ public:
     /** The field in a "Save Current Layout As..." sub-menu. Each rebuilding makes a new one. */
     static NameField nameField(const QMenu& saveAs);
 
-    /** The entries of a sub-menu that stand for views, which are sorted by name. */
+    /** The entries of a sub-menu of views, which are sorted by name. */
     static QList<QAction*> viewEntries(const QMenu& subMenu);
 
 private:

@@ -96,7 +96,7 @@ void DockDifferences::compareTabs(const std::vector<Pair>& pairs)
     }
 }
 
-// That another page is in front is told unless one of the two has come or gone.
+// Another page in front is reported unless one of the two has come or gone.
 void DockDifferences::compareFronts()
 {
     for (const std::vector<Pair>& unit : m_units) {
@@ -133,8 +133,8 @@ void DockDifferences::compareTabOrder()
     }
 }
 
-// If one alone was moved, the rest lie to each other as before; else all that may have been moved
-// are told, the likeliest first, until the rest do.
+// If only one was moved, the others are arranged as before. Otherwise those that may have been
+// moved are reported, the likeliest first, until the others are arranged as before.
 void DockDifferences::compareShape(int side)
 {
     const Shapes shapes = shapesOf(side);

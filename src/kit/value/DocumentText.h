@@ -29,7 +29,7 @@ public:
     /** Where each element begins in the bytes; empty where the places in the text are not those of
         the elements, because there is a document type. */
     QVector<qint64> elementOffsets() const;
-    /** Whether the encoding has what the two, or the one, UTF-16 units stand for. */
+    /** Whether the encoding has the character, which is one or two UTF-16 units. */
     bool canEncode(const QString& character) const;
 
 private:

@@ -32,7 +32,7 @@ QString tooLarge(qint64 limit)
         .arg(QLocale().formattedDataSize(limit));
 }
 
-// Whether the bytes begin as XML does, in any encoding that Qt's reader knows without being told.
+// Whether the bytes begin as XML does, in any encoding that Qt's reader recognises by itself.
 bool mayBeXml(const QByteArray& bytes)
 {
     const QByteArray start = bytes.left(64).trimmed();

@@ -61,7 +61,7 @@ void placeBar(PartPlaces& places, const Arrangement::Line& line, std::size_t i, 
 void PartPlaces::add(const QString& name, PartPlace place)
 {
     place.name = name;
-    // No name begins like this: those without one are told apart by their order.
+    // No name begins like this: those without one are distinguished by their order.
     place.key = name.isEmpty() ? QChar(0) + QString::number(m_nameless++) : name;
     place.place = parts.size();
     if (byKey.contains(place.key))

@@ -152,7 +152,7 @@ QStringList PictureLayout::pagesOf(int tabs) const
     return names;
 }
 
-// Below the page, where a main window has it unless it is told otherwise.
+// Below the page, where a main window has it by default.
 QRect PictureLayout::tabBarOf(int tabs) const
 {
     const QRect rect = m_rects[index(tabs)];

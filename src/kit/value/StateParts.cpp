@@ -39,7 +39,7 @@ bool isListed(Place place)
     return place == Place::Taken || place == Place::RepeatedNameless;
 }
 
-QSize toldSize(const QSize& size)
+QSize storedSize(const QSize& size)
 {
     return size.isEmpty() ? QSize() : size;
 }
@@ -143,9 +143,9 @@ void StateParts::addDockWidget(const StateItem& item, const QSize& size, Qt::Doc
     dockWidget.offset = item.offset;
     if (dockWidget.isFloating) {
         dockWidget.position = QPoint(item.values[0], item.values[1]);
-        dockWidget.size = toldSize(QSize(item.values[2], item.values[3]));
+        dockWidget.size = storedSize(QSize(item.values[2], item.values[3]));
     } else {
-        dockWidget.size = toldSize(size);
+        dockWidget.size = storedSize(size);
     }
     if (m_open.back().tabs >= 0) {
         OpenBlock& tabs = m_open[static_cast<std::size_t>(m_open.back().tabs)];

@@ -22,7 +22,7 @@ private:
     struct OpenBlock
     {
         const StateItem* block;
-        // Width and height of the block, negative where not told.
+        // Width and height of the block, negative where unknown.
         QSize size;
         // Number of the next item in it.
         int next = 0;

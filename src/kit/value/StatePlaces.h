@@ -25,7 +25,7 @@ enum class Place : unsigned char {
  * The places in a state, by the rules by which QMainWindow::restoreState() finds the parts: within
  * a section the first item of a name gets the part, and each section looks for all parts again.
  *
- * What merging repeats is told from other parts of the same name by where it is and how it looks.
+ * What merging repeats differs from other parts of the same name in place and form.
  * A record that merging has written begins with all items of the one before it, and has items of
  * its own after them. A window that was given such a state keeps an empty place for each repeat,
  * which it saves with a minimum and maximum size of 0; a dock widget has a maximum size above 0.
@@ -44,7 +44,7 @@ struct StatePlaces
     std::vector<Place> items;
     /** For each of StateTree::toolBars. */
     std::vector<Place> toolBars;
-    /** How many of both bear a name that came before in their section. */
+    /** How many of both have a name that occurred before in their section. */
     int repeats = 0;
     /** Whether merging has repeated any. */
     bool hasRepeats = false;

@@ -25,7 +25,7 @@ struct StateItem
     /** Of a dock widget; null for a block. */
     QString name;
     /** The four carried integers: of a floating dock widget x, y, width and height, else position
-        and extent along the block's orientation, and two that bear no meaning. All 0 for the block
+        and extent along the block's orientation, and two without a meaning. All 0 for the block
         of a dock record or of a floating tab group, which is no item of another. */
     std::array<int, 4> values{};
     /** Where the item begins in the bytes; for a top block, where the block does. */

@@ -40,7 +40,7 @@ public:
     void stop();
     /** Saves if anything has changed. @return whether the file is what it should be. */
     bool save();
-    /** Why the file could not be read or saved, as long as that is so. */
+    /** Why the file could not be read or saved, as long as that is the case. */
     QString problem() const { return m_problem; }
 
     /** What else is kept in the file; a change is saved with the next one. */

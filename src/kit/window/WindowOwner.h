@@ -69,7 +69,7 @@ private:
     struct Owner
     {
         IManagable* owner;
-        /** The same object, where it is one that tells of its end. */
+        /** The same object, if it is a QObject, which notices its deletion. */
         QPointer<QObject> object;
         bool isObject;
     };
