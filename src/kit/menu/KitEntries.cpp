@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "KitEntries.h"
 
+#include "GroupMenu.h"
+
 #include "../window/Session.h"
 
+#include <panorel/Manager.h>
 #include <panorel/Menu.h>
 #include <panorel/kit/Layouts.h>
 
@@ -15,6 +18,7 @@ KitEntries::KitEntries(Menu& menu, Layouts& layouts, Session& session)
     , m_session(session)
 {
     menu.addSeparator();
+    addGroups();
     addUndoAndRedo();
     // The menu itself goes on without the kit.
     connect(&layouts, &QObject::destroyed, this, &KitEntries::disable);
@@ -25,6 +29,13 @@ void KitEntries::add(QAction* entry)
 {
     m_menu.addAction(entry);
     m_entries.append(entry);
+}
+
+// One group needs no choice.
+void KitEntries::addGroups()
+{
+    if (m_session.manager.groups().size() > 1)
+        add((new GroupMenu(m_session.manager, &m_menu))->menuAction());
 }
 
 void KitEntries::addUndoAndRedo()

@@ -32,6 +32,7 @@ public:
 private:
     /** @param entry may be the menu's or anybody's. */
     void add(QAction* entry);
+    void addGroups();
     void addUndoAndRedo();
     void disable();
 
