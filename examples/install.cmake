@@ -7,16 +7,7 @@ install(DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}/"
     DESTINATION "${PANOREL_EXAMPLES_DIR}/examples"
     COMPONENT examples EXCLUDE_FROM_ALL
     FILES_MATCHING PATTERN CMakeLists.txt PATTERN README.md PATTERN "*.cpp" PATTERN "*.h"
-    # Their tests use what the library's own tests share.
-    PATTERN tests EXCLUDE
     PATTERN "*Test.cpp" EXCLUDE)
-# The workbench compiles these and looks for them here, seen from where it lies.
-install(FILES
-    "${Panorel_SOURCE_DIR}/src/ui/NameDialog.cpp"
-    "${Panorel_SOURCE_DIR}/src/ui/NameDialog.h"
-    DESTINATION "${PANOREL_EXAMPLES_DIR}/src/ui"
-    COMPONENT examples EXCLUDE_FROM_ALL)
-
 panorel_install_rpath(workbench "/../..")
 install(TARGETS workbench
     RUNTIME DESTINATION "${CMAKE_INSTALL_LIBDIR}/panorel/examples"

@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Layouts that no crash, full disk or wrong file can lose. LayoutStore writes beside the old file
-// and changes places when all is written, and puts a file that it cannot read aside.
-// explainImports() tells what came of an import and takes back one that read nothing.
+// Layouts that no crash, full disk or wrong file can lose. LayoutStore writes a new file and then
+// replaces the old one with it, and renames a file that it cannot read.
 #include "../01-first-layouts/SaveAtEnd.h"
-#include "LayoutCures.h"
 #include "LayoutStore.h"
-#include "LayoutUndo.h"
 
 #include <panorel/IManagable.h>
 #include <panorel/Manager.h>
@@ -40,12 +37,7 @@ int main(int argc, char* argv[])
     Panorel::Manager manager({QStringLiteral("Editing")}, /*mergeOnApply=*/false);
     Window window;
     manager.registerManagable(window);
-    LayoutUndo undo(manager); // Before the menu, which uses it.
-    Panorel::Menu menu(&manager, /*extended=*/true);
-    window.menuBar()->addMenu(&menu);
-    LayoutCures::explainImports(menu, manager, undo,
-                                [&](const QString& message) { window.tell(message); });
-
+    window.menuBar()->addMenu(new Panorel::Menu(&manager, /*extended=*/true, &window));
     window.show();
     LayoutStore store(LayoutStore::defaultFileName());
     window.tell(store.load(manager));

@@ -7,8 +7,8 @@
 #include <QDir>
 
 /**
- * Uses the workbench by keyboard and mouse as a person does, tells each step, checks what came of
- * it and writes a picture of all that is open.
+ * Uses the workbench by keyboard and mouse as a user does, prints each step, checks what came of it
+ * and writes a picture of all that is open.
  */
 class Tour
 {
@@ -30,18 +30,19 @@ private:
     bool switchByMouse();
     bool cycle();
     bool deleteAndUndo();
-    bool askForName();
-    bool openByKeys();
+    bool nextByKeys();
     bool switchGroups();
     bool importBadFiles();
     bool importGoodFile();
     bool resetAll();
     bool showManyLayouts();
+    bool showLongName();
 
     void place();
     void disturb();
     bool openMenu();
     bool openSubMenu(QMenu& subMenu);
+    bool switchGroup(int index);
     bool import(const QString& fileName, const QString& picture);
     QMenu& saveAsMenu() const;
     QMenu& deleteMenu() const;
@@ -50,7 +51,7 @@ private:
     void picture(const QString& name);
     bool step(const QString& name, const QString& text, bool holds);
     bool step(const QString& name, const QString& text, const Shown& expected);
-    bool told(const QString& message) const;
+    bool hasMessage() const;
 
     Workbench& m_workbench;
     QDir m_pictures;

@@ -66,8 +66,14 @@ void settle()
 
 void press(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
-    if (QWidget* widget = receiver())
-        QTest::keyClick(widget, key, modifiers);
+    // QTest knows the texts of Latin keys only.
+    const QString text = key < Qt::Key_Escape ? QString(QChar(key)) : QString();
+    if (QWidget* widget = receiver()) {
+        if (key > Qt::Key_ydiaeresis && !text.isEmpty())
+            QTest::sendKeyEvent(QTest::Click, widget, key, text, modifiers);
+        else
+            QTest::keyClick(widget, key, modifiers);
+    }
     settle();
 }
 

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "LayoutStore.h"
 #include "UserLanguage.h"
 #include "Workbench.h"
 
@@ -17,11 +16,10 @@ int main(int argc, char* argv[])
     options.addOptions({{QStringLiteral("merge"),
                          QStringLiteral("Leave the tool bars as they are on a switch of layouts.")},
                         {QStringLiteral("layouts"), QStringLiteral("Keep the layouts in <file>."),
-                         QStringLiteral("file"), LayoutStore::defaultFileName()}});
+                         QStringLiteral("file")}});
     options.process(app);
 
-    Workbench workbench(options.value(QStringLiteral("layouts")),
-                        options.isSet(QStringLiteral("merge")));
-    workbench.start();
+    Workbench workbench(options.isSet(QStringLiteral("merge")));
+    workbench.start(options.value(QStringLiteral("layouts")));
     return QApplication::exec();
 }

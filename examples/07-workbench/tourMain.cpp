@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Tour.h"
+#include "TourHands.h"
 #include "UserLanguage.h"
 
 #include <QApplication>
@@ -24,11 +25,12 @@ QPalette darkPalette()
 
 bool tour(const QString& file, const QDir& pictures)
 {
-    Workbench workbench(file, /*mergeOnApply=*/false);
-    workbench.start();
+    Workbench workbench(/*mergeOnApply=*/false);
+    workbench.start(file);
     const bool done = Tour(workbench, pictures).run();
     workbench.manager().activateGroup(QStringLiteral("Debugging"));
     workbench.editor().dock(QStringLiteral("Console"))->close();
+    TourHands::settle();
     workbench.editor().close();
     return done;
 }
@@ -36,12 +38,12 @@ bool tour(const QString& file, const QDir& pictures)
 // The next run of the program.
 bool comesBack(const QString& file)
 {
-    Workbench workbench(file, /*mergeOnApply=*/false);
-    workbench.start();
+    Workbench workbench(/*mergeOnApply=*/false);
+    workbench.start(file);
     const bool group = workbench.manager().activeGroup() == QLatin1String("Debugging");
     const bool windows = workbench.editor().dock(QStringLiteral("Console"))->isHidden();
     workbench.manager().activateGroup(QStringLiteral("Editing"));
-    const bool views = workbench.manager().views().contains(QStringLiteral("Wide"));
+    const bool views = workbench.manager().views().contains(QStringLiteral("Layout 1"));
     QTextStream(stdout) << (group && windows && views
                                 ? "The next run has the layouts, the group and the windows.\n"
                                 : "FAILED: the next run is not as this one was left\n");

@@ -133,7 +133,8 @@ void CodeBlocksTest::initTestCase()
         pages.append("docs/"_s + page);
     for (const QString& page : qAsConst(pages))
         m_blocks += blocksOf(root, page);
-    m_pieces = {wholeFile(root, "examples/01-first-layouts/main.cpp"_s)};
+    m_pieces = {wholeFile(root, "examples/01-first-layouts/main.cpp"_s),
+                wholeFile(root, "examples/08-kit/main.cpp"_s)};
     for (const char* folder : {"examples", "tests/docs"}) {
         QDirIterator files(root.filePath(QLatin1String(folder)),
                            {"*.cpp"_s, "*.h"_s, "CMakeLists.txt"_s}, QDir::Files,

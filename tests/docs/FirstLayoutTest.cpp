@@ -36,7 +36,7 @@ void FirstLayoutTest::aLayoutComesBack()
     window.show();
     //! [use]
     manager.saveCurrentViewAs(QStringLiteral("Standard"));
-    // The person drags things about, and later wants them back:
+    // The user moves things, and later wants them back:
     manager.activateView(QStringLiteral("Standard"));
     //! [use]
 

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "EditorWindow.h"
-#include "LayoutCures.h"
-#include "LayoutDocument.h"
+#include "LayoutStore.h"
 
 #include "support/SignalLog.h"
 #include "support/Text.h"
 
 #include <panorel/Manager.h>
-#include <panorel/Menu.h>
 
 #include <QTest>
 #include <QTimer>
@@ -70,7 +68,6 @@ private Q_SLOTS:
     void cleanup();
 
     void anyNameIsTaken();
-    void theMenuIsKeptFromNamelessLayouts();
     void anotherVersionDropsEverything();
     void theVersionIsAskedFor();
     void aSpecialDocumentIsNotAskedForItsVersion();
@@ -116,20 +113,6 @@ void ShieldTest::anyNameIsTaken()
     QVERIFY(isGoodName("Mine"_s));
 }
 
-void ShieldTest::theMenuIsKeptFromNamelessLayouts()
-{
-    Panorel::Manager& manager = *m_manager;
-    const auto tell = [this](const QString& message) { m_told.append(message); };
-    //! [names]
-    Panorel::Menu menu(&manager, /*extended=*/true);
-    LayoutCures::refuseEmptyNames(menu, tell);       // Typed by a person,
-    LayoutCures::removeNamelessViews(manager, tell); // or read from a file.
-    //! [names]
-    manager.createView(QString());
-    QTRY_COMPARE(manager.views(), QStringList{"Mine"_s});
-    QCOMPARE(m_told.size(), 1);
-}
-
 void ShieldTest::anotherVersionDropsEverything()
 {
     QVERIFY(m_manager->fromXml(otherVersion(), /*merge=*/false));
@@ -141,14 +124,14 @@ void ShieldTest::theVersionIsAskedFor()
     Panorel::Manager& manager = *m_manager;
     const QByteArray document = otherVersion();
     //! [version]
-    if (LayoutDocument::problemWith(document) == LayoutDocument::Problem::None)
+    const QString problem = LayoutStore::problemWith(document);
+    if (problem.isNull())
         manager.fromXml(document, /*merge=*/false);
     //! [version]
     QCOMPARE(manager.views(), QStringList{"Mine"_s});
-    QCOMPARE(LayoutDocument::problemWith(document), LayoutDocument::Problem::OtherVersion);
-    QCOMPARE(LayoutDocument::problemWith("<html/>"), LayoutDocument::Problem::NotLayouts);
-    QCOMPARE(LayoutDocument::problemWith(manager.toXml(/*markActive=*/true)),
-             LayoutDocument::Problem::None);
+    QCOMPARE(problem, "It was written by another version of this program."_s);
+    QCOMPARE(LayoutStore::problemWith("<html/>"), "It is damaged."_s);
+    QVERIFY(LayoutStore::problemWith(manager.toXml(/*markActive=*/true)).isNull());
 }
 
 void ShieldTest::aSpecialDocumentIsNotAskedForItsVersion()

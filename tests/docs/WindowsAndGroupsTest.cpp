@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "EditorWindow.h"
-#include "GroupMenu.h"
 #include "LayoutStore.h"
 
 #include "support/Text.h"
 
 #include <panorel/Manager.h>
 
+#include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
 #include <QSettings>
@@ -135,7 +135,9 @@ void WindowsAndGroupsTest::eachGroupIsFoundAsItWasLeft()
                              /*mergeOnApply=*/false);
     EditorWindow window;
     manager.registerManagable(window);
-    window.menuBar()->addMenu(new GroupMenu(manager, &window));
+    QMenu* groups = window.menuBar()->addMenu(tr("&Group"));
+    for (const QString& name : manager.groups())
+        groups->addAction(name, &manager, [&manager, name] { manager.activateGroup(name); });
     //! [groups]
     manager.saveCurrentViewAs("Mine"_s);
     move(window, "files"_s, Qt::TopDockWidgetArea);

@@ -16,7 +16,7 @@ file(CREATE_LINK "${PROJECT_SOURCE_DIR}"
 set(options
     "-DCMAKE_BUILD_TYPE=$<CONFIG>"
     "-DCMAKE_CXX_COMPILER=${CMAKE_CXX_COMPILER}"
-    "-DPROGRAM=${PROJECT_SOURCE_DIR}/examples/01-first-layouts/main.cpp"
+    "-DPROGRAM=${PROJECT_SOURCE_DIR}/examples/08-kit/main.cpp"
     "-DQt5_DIR=${Qt5_DIR}")
 
 get_property(prefix GLOBAL PROPERTY PANOREL_INSTALLED_PREFIX)

@@ -1,9 +1,41 @@
 // SPDX-License-Identifier: MIT
-#include "CuresFixture.h"
-
 #include "LayoutStore.h"
 
+#include <panorel/IManagable.h>
+#include <panorel/Manager.h>
+
+#include <QDockWidget>
+#include <QFile>
+#include <QMainWindow>
 #include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+/** A window with a dock widget, shown. */
+struct Program : Panorel::IManagable
+{
+    Program()
+    {
+        dock.setObjectName(QStringLiteral("dock"));
+        window.addDockWidget(Qt::LeftDockWidgetArea, &dock);
+        manager.registerManagable(*this);
+        window.show();
+        isShown = QTest::qWaitForWindowExposed(&window);
+    }
+
+    QList<Panorel::ManagedWindow> managedWindows() override
+    {
+        return {{QStringLiteral("window"), &window}};
+    }
+
+    Panorel::Manager manager{{QStringLiteral("Group")}, /*mergeOnApply=*/false};
+    QMainWindow window;
+    QDockWidget dock;
+    bool isShown;
+};
+
+} // namespace
 
 /** Layouts are there in the next run, and no file is lost, whatever is in it. */
 class LayoutStoreTest : public QObject
@@ -30,19 +62,19 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         const QString name = folder.filePath(QStringLiteral("new/folder/layouts.views"));
         {
-            CuresFixture f;
+            Program program;
             LayoutStore store(name);
-            QCOMPARE(store.load(f.manager), QString());
-            f.save(QStringLiteral("Wide"));
-            f.dock.close();
-            QCOMPARE(store.save(f.manager), QString());
+            QCOMPARE(store.load(program.manager), QString());
+            program.manager.saveCurrentViewAs(QStringLiteral("Wide"));
+            program.dock.close();
+            QCOMPARE(store.save(program.manager), QString());
         }
-        CuresFixture f;
+        Program program;
         LayoutStore store(name);
-        QCOMPARE(store.load(f.manager), QString());
-        QCOMPARE(f.manager.views(), QStringList{QStringLiteral("Wide")});
-        QCOMPARE(f.manager.activeView(), QStringLiteral("Wide"));
-        QVERIFY(f.dock.isHidden());
+        QCOMPARE(store.load(program.manager), QString());
+        QCOMPARE(program.manager.views(), QStringList{QStringLiteral("Wide")});
+        QCOMPARE(program.manager.activeView(), QStringLiteral("Wide"));
+        QVERIFY(program.dock.isHidden());
     }
 
     // As after QApplication::exec(), when the user has closed the window.
@@ -56,13 +88,13 @@ private Q_SLOTS:
     void closedWindowIsSavedAsItWas()
     {
         QFETCH(bool, floating);
-        CuresFixture f;
-        f.dock.setFloating(floating);
+        Program program;
+        program.dock.setFloating(floating);
         QCoreApplication::processEvents();
-        const QByteArray shown = f.manager.toXml(/*markActive=*/true);
-        f.window.close();
+        const QByteArray shown = program.manager.toXml(/*markActive=*/true);
+        program.window.close();
         QCoreApplication::processEvents();
-        QCOMPARE(f.manager.toXml(/*markActive=*/true), shown);
+        QCOMPARE(program.manager.toXml(/*markActive=*/true), shown);
     }
 
     void unreadableFileIsKept_data()
@@ -86,16 +118,16 @@ private Q_SLOTS:
         const QString name = folder.filePath(QStringLiteral("layouts.views"));
         write(name + QStringLiteral(".unreadable-1"), "an earlier one");
         write(name, bytes);
-        CuresFixture f;
-        f.save(QStringLiteral("Mine"));
+        Program program;
+        program.manager.saveCurrentViewAs(QStringLiteral("Mine"));
         LayoutStore store(name);
-        const QString message = store.load(f.manager);
+        const QString message = store.load(program.manager);
         QVERIFY2(message.contains(reason), qPrintable(message));
         QVERIFY2(message.contains(QStringLiteral("layouts.views.unreadable-2")),
                  qPrintable(message));
-        QCOMPARE(f.manager.views(), QStringList{QStringLiteral("Mine")});
+        QCOMPARE(program.manager.views(), QStringList{QStringLiteral("Mine")});
 
-        QCOMPARE(store.save(f.manager), QString());
+        QCOMPARE(store.save(program.manager), QString());
         QCOMPARE(read(name + QStringLiteral(".unreadable-1")), QByteArray("an earlier one"));
         QCOMPARE(read(name + QStringLiteral(".unreadable-2")), bytes);
         QVERIFY(read(name).contains("Mine"));
@@ -107,10 +139,10 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         const QString file = folder.filePath(QStringLiteral("file"));
         write(file, "x");
-        CuresFixture f;
+        Program program;
         LayoutStore store(file + QStringLiteral("/layouts.views"));
-        QCOMPARE(store.load(f.manager), QString());
-        const QString message = store.save(f.manager);
+        QCOMPARE(store.load(program.manager), QString());
+        const QString message = store.save(program.manager);
         QVERIFY2(message.contains(QStringLiteral("could not be saved")), qPrintable(message));
         QCOMPARE(read(file), QByteArray("x"));
     }

@@ -13,8 +13,8 @@ class Manager;
  * Keeps the layouts of a Manager in a file between runs. The Manager itself stores nothing.
  *
  * No file is ever lost: a new one takes the place of the old one only when it is complete, and one
- * that cannot be read is kept under another name. Both operations return a message for a person, an
- * empty one when all went well.
+ * that cannot be read is kept under another name. Both operations return a message for the user, an
+ * empty one if all went well.
  */
 class LayoutStore
 {
@@ -35,8 +35,14 @@ public:
     /** Writes the Manager's layouts, with what the windows show now. */
     QString save(Panorel::Manager& manager);
 
+    /**
+     * Why a Manager does not read a document, in words; null if it does. Manager::fromXml() returns
+     * true for one of another version, and then removes all layouts.
+     */
+    static QString problemWith(const QByteArray& document);
+
 private:
-    QString putAside(const QString& reason);
+    QString moveAway(const QString& reason);
     QString readable() const;
 
     QString m_fileName;

@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <panorel/Menu.h>
-
 #include <QAction>
 #include <QList>
+#include <QMenu>
 
-/** The entries of a menu, found by their places, for their texts are translated. */
+/** The entries of a menu. They are found by their places, because their texts are translated. */
 class MenuParts
 {
 public:
-    explicit MenuParts(const Panorel::Menu& menu)
+    explicit MenuParts(const QMenu& menu)
     {
         const QList<QAction*> actions = menu.actions();
         for (QAction* action : actions) {
@@ -23,7 +22,7 @@ public:
 
     QMenu* saveAs() const { return m_subMenus.value(0); }
     QMenu* deletion() const { return m_subMenus.value(1); }
-    /** Null in a menu that is not extended, as all below. */
+    QMenu* groups() const { return m_subMenus.value(2); }
     QAction* import() const { return m_commands.value(1); }
     QAction* importAndMerge() const { return m_commands.value(2); }
     QAction* programStart() const { return m_commands.value(3); }
