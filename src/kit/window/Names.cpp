@@ -86,4 +86,17 @@ void Names::takeBack()
     m_named.clear();
 }
 
+Names::Loan::Loan(Names& names, QMainWindow& window)
+    : m_names(names)
+    , m_isFirst(names.m_named.isEmpty())
+{
+    m_names.give(window);
+}
+
+Names::Loan::~Loan()
+{
+    if (m_isFirst)
+        m_names.takeBack();
+}
+
 } // namespace Panorel::Kit::Detail

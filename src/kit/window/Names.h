@@ -31,6 +31,20 @@ public:
     /** The parts have no names any more. A name that the application has set stays. */
     void takeBack();
 
+    /** The parts of a window have names while one exists. Those that had them before keep them. */
+    class Loan
+    {
+    public:
+        Loan(Names& names, QMainWindow& window);
+        ~Loan();
+        Loan(const Loan&) = delete;
+        Loan& operator=(const Loan&) = delete;
+
+    private:
+        Names& m_names;
+        const bool m_isFirst;
+    };
+
 private:
     QList<QPointer<QWidget>> m_named;
 };

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "MenuPlace.h"
+
+#include <panorel/Manager.h>
+#include <panorel/kit/Layouts.h>
+
+#include <QMainWindow>
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+namespace Panorel::Plugin {
+
+/** The layouts of this program, which are kept in the user's data folder under its name. */
+class ProgramLayouts
+{
+public:
+    explicit ProgramLayouts(bool merges);
+    ~ProgramLayouts();
+
+    bool has(const QMainWindow& window) const;
+    void add(QMainWindow& window);
+
+private:
+    void showMessage(const QString& text) const;
+
+    Manager m_manager;
+    Kit::Layouts m_layouts;
+    std::vector<std::unique_ptr<MenuPlace>> m_places;
+};
+
+} // namespace Panorel::Plugin
