@@ -7,6 +7,7 @@
 #include <panorel/Manager.h>
 #include <panorel/kit/Layouts.h>
 
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <memory>
@@ -45,6 +46,7 @@ private Q_SLOTS:
     void namelessPartsComeBackByMerging();
     void namesAreTheSameInEveryRun();
     void namesAreTakenBack();
+    void aClosedWindowSavesItsOwnStateWithoutThem();
     void checkFinds();
     void anyOrderOfDestruction_data();
     void anyOrderOfDestruction();
@@ -151,6 +153,31 @@ void LayoutsWindowsTest::namesAreTakenBack()
     manager.createView("v"_s);
     QCoreApplication::processEvents();
     QCOMPARE(dock->objectName(), QString());
+}
+
+void LayoutsWindowsTest::aClosedWindowSavesItsOwnStateWithoutThem()
+{
+    class Window : public QMainWindow
+    {
+    public:
+        QString nameWhenClosed = "not closed"_s;
+        QDockWidget* const dock = new QDockWidget(this);
+
+    protected:
+        void closeEvent(QCloseEvent*) override { nameWhenClosed = dock->objectName(); }
+    };
+    const QTemporaryDir folder;
+    Manager manager({"G"_s}, /*mergeOnApply=*/false);
+    Window window;
+    window.addDockWidget(Qt::LeftDockWidgetArea, window.dock);
+    Layouts layouts(manager);
+    layouts.addWindow(window);
+    layouts.start(folder.filePath("layouts.views"_s));
+    window.show();
+    manager.createView("v"_s);
+    QCoreApplication::processEvents();
+    window.close();
+    QCOMPARE(window.nameWhenClosed, QString());
 }
 
 void LayoutsWindowsTest::checkFinds()

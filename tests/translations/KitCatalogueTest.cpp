@@ -54,7 +54,8 @@ void KitCatalogueTest::initTestCase()
     QProcess lupdate;
     lupdate.start(QStringLiteral(LUPDATE),
                   {QStringLiteral("-I"), QStringLiteral(INCLUDE_DIR), QStringLiteral(KIT_DIR),
-                   QStringLiteral(TOOL_DIR), QStringLiteral("-ts"), file});
+                   QStringLiteral(PLUGIN_DIR), QStringLiteral(TOOL_DIR), QStringLiteral("-ts"),
+                   file});
     QVERIFY2(lupdate.waitForFinished(), qPrintable(lupdate.errorString()));
     const Catalogue source = Catalogue::read(file);
     for (const Message& message : source.messages())

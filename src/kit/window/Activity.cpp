@@ -59,6 +59,7 @@ QList<ManagedWindow> Activity::asked()
     m_stored.readCurrents();
     Q_EMIT capturing();
     const QList<ManagedWindow> windows = m_owner.windows();
+    m_giver.nameParts(windows);
     m_asked = m_giver.live(windows);
     ++m_asks;
     return windows;

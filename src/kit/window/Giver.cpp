@@ -61,8 +61,16 @@ StateMap Giver::live(const QList<ManagedWindow>& windows)
 
 QByteArray Giver::stateOf(QMainWindow& window)
 {
-    m_names.give(window);
+    const Names::Loan names(m_names, window);
     return window.saveState(0);
+}
+
+void Giver::nameParts(const QList<ManagedWindow>& windows)
+{
+    for (const ManagedWindow& managed : windows) {
+        if (managed.window)
+            m_names.give(*managed.window);
+    }
 }
 
 void Giver::give(const StateMap& stored, ToolBars toolBars)
@@ -121,7 +129,7 @@ void Giver::giveTo(QMainWindow& window, const WindowState& stored, const QByteAr
     m_docks.createMissing(window, stored);
     if (!watched)
         return;
-    m_names.give(window);
+    const Names::Loan names(m_names, window);
     dockFloatingTabs(window);
     (void)window.restoreState(state, 0); // It is sound. What a window refuses, it stays without.
     if (!watched)

@@ -31,6 +31,9 @@ public:
     StateMap live();
     StateMap live(const QList<ManagedWindow>& windows);
     QByteArray stateOf(QMainWindow& window);
+    /** Names the parts of windows that somebody else takes and gives layouts of, until control
+        returns to the event loop. Otherwise the application sees no such names. */
+    void nameParts(const QList<ManagedWindow>& windows);
     /** Which tool bars the windows get. */
     enum class ToolBars { Stored, Kept };
     /** Gives each window its part of @p stored; one without a part, or whose part is not sound,
