@@ -11,6 +11,9 @@ set(PANOREL_GENERATED_INCLUDES "${PROJECT_BINARY_DIR}/include")
 set(PANOREL_CMAKE_DIR "${CMAKE_INSTALL_LIBDIR}/cmake/Panorel")
 # Libraries that only ours load, under names that others may use as well.
 set(PANOREL_PRIVATE_LIBDIR "${CMAKE_INSTALL_LIBDIR}/panorel")
+# Qt looks here if the prefix is its own, and else if it is told to by QT_PLUGIN_PATH.
+set(PANOREL_QT_PLUGIN_DIR "${CMAKE_INSTALL_LIBDIR}/qt5/plugins" CACHE STRING
+    "Where Qt's plugins are installed, below the prefix")
 
 # The public headers of a library, as programs include them; those that are not in include/ are
 # generated. They are sources as well, or moc would not see the ones with Q_OBJECT.

@@ -13,16 +13,16 @@ namespace {
 const QSet<QString>& helpWords()
 {
     static const QSet<QString> words{
-        QStringLiteral("?"),        QStringLiteral("help"),      QStringLiteral("hilfe"),
-        QStringLiteral("aide"),     QStringLiteral("ayuda"),     QStringLiteral("aiuto"),
-        QStringLiteral("ajuda"),    QStringLiteral("hjälp"),     QStringLiteral("hjælp"),
-        QStringLiteral("hjelp"),    QStringLiteral("ohje"),      QStringLiteral("pomoc"),
-        QStringLiteral("nápověda"), QStringLiteral("pomocník"),  QStringLiteral("súgó"),
-        QStringLiteral("ajutor"),   QStringLiteral("справка"),   QStringLiteral("помощь"),
-        QStringLiteral("довідка"),  QStringLiteral("допомога"),  QStringLiteral("yardım"),
-        QStringLiteral("βοήθεια"),  QStringLiteral("עזרה"),      QStringLiteral("مساعدة"),
-        QStringLiteral("تعليمات"),  QStringLiteral("المساعدة"),  QStringLiteral("ヘルプ"),
-        QStringLiteral("도움말"),   QStringLiteral("帮助"),      QStringLiteral("幫助"),
+        QStringLiteral("?"),        QStringLiteral("help"),     QStringLiteral("hilfe"),
+        QStringLiteral("aide"),     QStringLiteral("ayuda"),    QStringLiteral("aiuto"),
+        QStringLiteral("ajuda"),    QStringLiteral("hjälp"),    QStringLiteral("hjælp"),
+        QStringLiteral("hjelp"),    QStringLiteral("ohje"),     QStringLiteral("pomoc"),
+        QStringLiteral("nápověda"), QStringLiteral("pomocník"), QStringLiteral("súgó"),
+        QStringLiteral("ajutor"),   QStringLiteral("справка"),  QStringLiteral("помощь"),
+        QStringLiteral("довідка"),  QStringLiteral("допомога"), QStringLiteral("yardım"),
+        QStringLiteral("βοήθεια"),  QStringLiteral("עזרה"),     QStringLiteral("مساعدة"),
+        QStringLiteral("تعليمات"),  QStringLiteral("المساعدة"), QStringLiteral("ヘルプ"),
+        QStringLiteral("도움말"),   QStringLiteral("帮助"),     QStringLiteral("幫助"),
         QStringLiteral("說明"),     QStringLiteral("輔助說明"), QStringLiteral("求助")};
     return words;
 }

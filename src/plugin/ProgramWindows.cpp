@@ -71,8 +71,7 @@ void ProgramWindows::end()
 bool ProgramWindows::eventFilter(QObject* watched, QEvent* event)
 {
     // Most programs have their parts when they show a window, but some make them later.
-    const bool mayCount =
-        event->type() == QEvent::Show || event->type() == QEvent::ChildPolished;
+    const bool mayCount = event->type() == QEvent::Show || event->type() == QEvent::ChildPolished;
     if (mayCount && watched->isWidgetType()) {
         if (auto* const window = qobject_cast<QMainWindow*>(watched))
             note(window);
@@ -92,9 +91,9 @@ void ProgramWindows::note(QMainWindow* window)
 void ProgramWindows::takeNoted()
 {
     m_noted.removeAll(QPointer<QMainWindow>());
-    const bool hasMenuBar =
-        std::any_of(m_noted.cbegin(), m_noted.cend(),
-                    [](const auto& window) { return counts(*window) && menuBarOf(*window); });
+    const bool hasMenuBar = std::any_of(m_noted.cbegin(), m_noted.cend(), [](const auto& window) {
+        return counts(*window) && menuBarOf(*window);
+    });
     if (m_layouts || hasMenuBar)
         take();
 }

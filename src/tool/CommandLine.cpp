@@ -52,6 +52,12 @@ void CommandLine::addValue(const QStringList& names, const QString& description,
     m_single.append(names.constFirst());
 }
 
+void CommandLine::takeCommand()
+{
+    m_takesCommand = true;
+    m_parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
+}
+
 std::optional<int> CommandLine::parse(const QStringList& arguments, int fewestFiles, int mostFiles)
 {
     // The parser passes over the first argument, which is a program's name.
@@ -71,6 +77,8 @@ std::optional<int> CommandLine::parse(const QStringList& arguments, int fewestFi
 
 QString CommandLine::misuse(int fewestFiles, int mostFiles) const
 {
+    if (m_takesCommand)
+        return QString();
     if (files().size() < fewestFiles)
         return Text::tr("a file is missing");
     if (files().size() > mostFiles)

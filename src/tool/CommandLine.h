@@ -35,6 +35,8 @@ public:
      * was wrong, which is reported.
      */
     std::optional<int> parse(const QStringList& arguments, int fewestFiles, int mostFiles);
+    /** What follows the options is a command with its own arguments, not files. */
+    void takeCommand();
     /** Lets the option @p name be given more than once. */
     void allowRepeated(const QString& name) { m_single.removeAll(name); }
     /** Whether each of the options @p names has a value; reports the first that has none. */
@@ -59,6 +61,7 @@ private:
     /** The options that can be given only once. */
     QStringList m_single;
     QCommandLineParser m_parser;
+    bool m_takesCommand = false;
 };
 
 /** The option as a user types it: "-o", "--view". */

@@ -34,6 +34,14 @@ const Command commands[] = {
      &runMove},
     {"remove", QT_TRANSLATE_NOOP("Panorel::Tool::Commands", "Removes layouts from a document."),
      &runRemove},
+    {"run",
+     QT_TRANSLATE_NOOP("Panorel::Tool::Commands",
+                       "Starts a Qt 5 program with a menu for the layouts of its windows."),
+     &runRun},
+    {"install-launcher",
+     QT_TRANSLATE_NOOP("Panorel::Tool::Commands",
+                       "Lets the desktop start a program by \"panorel run\"."),
+     &runInstallLauncher},
 };
 
 class Text
@@ -62,7 +70,7 @@ QString generalHelp()
     QString help = Text::tr("Usage: panorel COMMAND ...") + QLatin1String("\n\n");
     for (const Command& command : commands) {
         help += QStringLiteral("  %1  %2\n")
-                    .arg(QLatin1String(command.name), -8)
+                    .arg(QLatin1String(command.name), -16)
                     .arg(command.translatedSummary());
     }
     help += QLatin1Char('\n');

@@ -37,5 +37,7 @@ int runCopy(const Command& command, const QStringList& arguments);
 int runRename(const Command& command, const QStringList& arguments);
 int runMove(const Command& command, const QStringList& arguments);
 int runRemove(const Command& command, const QStringList& arguments);
+int runRun(const Command& command, const QStringList& arguments);
+int runInstallLauncher(const Command& command, const QStringList& arguments);
 
 } // namespace Panorel::Tool

@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+#include "support/Text.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Panorel::Tests;
+
+namespace {
+
+/** What a run of a program leaves. */
+struct Run
+{
+    int status = -1;
+    bool hasCrashed = false;
+    QByteArray output;
+    QByteArray messages;
+};
+
+QByteArray contentOf(const QString& fileName)
+{
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// The settings file as it was before may be in the folder.
+Run run(const QString& folder, QStringList arguments, const QByteArray& plugin)
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("XDG_DATA_HOME"_s, folder);
+    environment.insert("QT_PLUGIN_PATH"_s, QStringLiteral(PLUGINS));
+    if (!plugin.isEmpty()) {
+        environment.insert("QT_QPA_GENERIC_PLUGINS"_s, QString::fromLatin1(plugin));
+        arguments.append("--wait"_s);
+    }
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(PLAIN_PROGRAM), arguments);
+    Run result;
+    if (!process.waitForFinished(120000))
+        return result;
+    result.status = process.exitCode();
+    result.hasCrashed = process.exitStatus() == QProcess::CrashExit;
+    result.output = process.readAllStandardOutput();
+    result.messages = process.readAllStandardError();
+    return result;
+}
+
+} // namespace
+
+/** A program that keeps settings of its own, with and without the plugin. */
+class PluginProgramTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void sameAsWithout_data();
+    void sameAsWithout();
+    void layoutComesAfterTheProgramsOwn();
+    void unreadableLayouts();
+};
+
+void PluginProgramTest::sameAsWithout_data()
+{
+    QTest::addColumn<QString>("way");
+    for (const char* way : {"close", "quit", "exit", "abort", "terminate"})
+        QTest::newRow(way) << QString::fromLatin1(way);
+}
+
+void PluginProgramTest::sameAsWithout()
+{
+    QFETCH(QString, way);
+    const QTemporaryDir with;
+    const QTemporaryDir without;
+    // The second run restores what the first has saved.
+    for (int i = 0; i < 2; ++i) {
+        const Run expected =
+            run(without.path(), {without.filePath("settings"_s), way}, QByteArray());
+        const Run actual = run(with.path(), {with.filePath("settings"_s), way}, "panorel");
+        QCOMPARE(actual.status, expected.status);
+        QCOMPARE(actual.hasCrashed, expected.hasCrashed);
+        QCOMPARE(actual.output, expected.output);
+        QCOMPARE(actual.messages, expected.messages);
+        QCOMPARE(contentOf(with.filePath("settings"_s)), contentOf(without.filePath("settings"_s)));
+    }
+}
+
+void PluginProgramTest::layoutComesAfterTheProgramsOwn()
+{
+    const QTemporaryDir folder;
+    // It is on the left in the program's own state, and was on the right in the last run.
+    const QString settings = folder.filePath("settings"_s);
+    QCOMPARE(run(folder.path(), {settings, "look"_s}, QByteArray()).output, QByteArray("1\n"));
+    QFile::copy(settings, folder.filePath("left"_s));
+    QCOMPARE(run(folder.path(), {settings, "close"_s}, "panorel").output, QByteArray("2\n"));
+    QCOMPARE(run(folder.path(), {folder.filePath("left"_s), "look"_s}, "panorel").output,
+             QByteArray("2\n"));
+}
+
+void PluginProgramTest::unreadableLayouts()
+{
+    const QTemporaryDir folder;
+    const QString settings = folder.filePath("settings"_s);
+    QCOMPARE(run(folder.path(), {settings, "close"_s}, "panorel").status, 0);
+    const QString layouts = folder.filePath("panorel/programs/PlainProgram.views"_s);
+    QFile file(layouts);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QVERIFY(file.write("<ViewData Version=") > 0);
+    file.close();
+    const Run second = run(folder.path(), {settings, "close"_s}, "panorel:merge");
+    QCOMPARE(second.status, 0);
+    QCOMPARE(second.messages, QByteArray());
+    QCOMPARE(second.output, QByteArray("2\n"));
+}
+
+QTEST_GUILESS_MAIN(PluginProgramTest)
+#include "PluginProgramTest.moc"
