@@ -81,8 +81,10 @@ headers, and files for CMake and pkg-config."
     SUGGESTS "panorel-doc")
 panorel_debian_package(tools panorel-tools utils " (command)"
     "This package contains the command panorel, which checks, shows, compares
-and draws layouts that are kept in files." SHLIBDEPS
-    DEPENDS "${library} (= ${version}), ${kit} (= ${version})")
+and draws layouts that are kept in files. It also starts other programs
+with the plugin that gives them layouts." SHLIBDEPS
+    DEPENDS "${library} (= ${version}), ${kit} (= ${version})"
+    RECOMMENDS "panorel-plugin (= ${version})")
 panorel_debian_package(plugin panorel-plugin utils " (plugin)"
     "This package contains a plugin that gives named layouts to programs that
 were not built with the library." SHLIBDEPS

@@ -7,6 +7,7 @@
 
 #include <QEvent>
 #include <QFile>
+#include <QLayout>
 #include <QThread>
 #include <QTimer>
 #include <QToolButton>
@@ -61,6 +62,7 @@ void ButtonBar::show()
     m_bar->setObjectName(QStringLiteral("panorel-layouts"));
     m_bar->addWidget(m_layouts.createButton(m_bar));
     window()->addToolBar(m_bar);
+    m_bar->show();
     // Hidden by the program's own list of tool bars, it is off as well.
     connect(m_bar->toggleViewAction(), &QAction::triggered, this, [this](bool isShown) {
         if (!isShown)
@@ -84,6 +86,7 @@ void ButtonBar::leave()
 {
     m_area = window()->toolBarArea(m_bar);
     window()->removeToolBar(m_bar);
+    (void)window()->layout()->activate(); // The sizes without it are to be saved as well.
     m_isAway = true;
     comeBackIfRefused(QThread::currentThread()->loopLevel());
 }

@@ -39,7 +39,11 @@ void ProgramLayouts::add(QMainWindow& window)
                                   [](const auto& place) { return !place->window(); }),
                    m_places.end());
     m_places.push_back(std::make_unique<MenuPlace>(window, m_layouts));
+    // Size and place are the program's own business, so they stay what they are.
+    const QByteArray geometry = window.saveGeometry();
     m_layouts.addWindow(window);
+    if (window.saveGeometry() != geometry)
+        (void)window.restoreGeometry(geometry);
 }
 
 // Where the program shows its own. A status bar that it has hidden, or does not have, stays so.

@@ -16,6 +16,9 @@ using namespace Panorel::Tests;
 
 namespace {
 
+// Of a machine that is busy.
+constexpr int patience = 60000;
+
 /** A window as many programs have it, on the screen. */
 class ProgramWindow : public SmallWindow
 {
@@ -24,6 +27,8 @@ public:
     {
         menuBar()->addMenu("&File"_s);
         menuBar()->addMenu(lastMenu);
+        setCentralWidget(new QWidget);
+        resize(500, 400);
     }
 
     QStringList menus() const
@@ -41,7 +46,7 @@ void waitForPlugin()
 {
     ProgramWindow window;
     window.show();
-    QTRY_VERIFY_WITH_TIMEOUT(pluginMenu(window), 60000);
+    QTRY_VERIFY_WITH_TIMEOUT(pluginMenu(window), patience);
 }
 
 QAction* buttonEntry(const QMainWindow& window)
@@ -79,6 +84,7 @@ private Q_SLOTS:
     void dockWidgetPerDocument();
     void namelessPartsComeBack();
     void ownStateIsTheSame();
+    void sizeStaysTheProgramsOwn();
     void buttonIsInAToolBar();
     void buttonLeavesBeforeTheProgramSaves();
     void buttonComesBackIfClosingIsRefused();
@@ -115,37 +121,40 @@ void PluginWindowsTest::menuIsBeforeHelp()
     ProgramWindow window(text);
     window.menuBar()->actions().constLast()->menu()->setObjectName(name);
     window.show();
-    QTRY_COMPARE(window.menus(), QStringList({"&File"_s, "&Layouts"_s, text}));
+    QTRY_COMPARE_WITH_TIMEOUT(window.menus(), QStringList({"&File"_s, "&Layouts"_s, text}),
+                              patience);
 }
 
 void PluginWindowsTest::menuIsLastWithoutHelp()
 {
     ProgramWindow window("&Edit"_s);
     window.show();
-    QTRY_COMPARE(window.menus(), QStringList({"&File"_s, "&Edit"_s, "&Layouts"_s}));
+    QTRY_COMPARE_WITH_TIMEOUT(window.menus(), QStringList({"&File"_s, "&Edit"_s, "&Layouts"_s}),
+                              patience);
 }
 
 void PluginWindowsTest::menuComesBackWhenMenusAreMadeAgain()
 {
     ProgramWindow window;
     window.show();
-    QTRY_VERIFY(pluginMenu(window));
+    QTRY_VERIFY_WITH_TIMEOUT(pluginMenu(window), patience);
     window.menuBar()->clear();
     window.menuBar()->addMenu("&New"_s);
-    QTRY_COMPARE(window.menus(), QStringList({"&New"_s, "&Layouts"_s}));
+    QTRY_COMPARE_WITH_TIMEOUT(window.menus(), QStringList({"&New"_s, "&Layouts"_s}), patience);
     window.menuBar()->addMenu("&Help"_s);
-    QTRY_COMPARE(window.menus(), QStringList({"&New"_s, "&Layouts"_s, "&Help"_s}));
+    QTRY_COMPARE_WITH_TIMEOUT(window.menus(), QStringList({"&New"_s, "&Layouts"_s, "&Help"_s}),
+                              patience);
 }
 
 void PluginWindowsTest::menuBarThatIsReplaced()
 {
     ProgramWindow window;
     window.show();
-    QTRY_VERIFY(pluginMenu(window));
+    QTRY_VERIFY_WITH_TIMEOUT(pluginMenu(window), patience);
     auto* bar = new QMenuBar;
     bar->addMenu("&Other"_s);
     window.setMenuBar(bar);
-    QTRY_COMPARE(window.menus(), QStringList({"&Other"_s, "&Layouts"_s}));
+    QTRY_COMPARE_WITH_TIMEOUT(window.menus(), QStringList({"&Other"_s, "&Layouts"_s}), patience);
 }
 
 void PluginWindowsTest::menuBarThatIsHidden()
@@ -153,7 +162,7 @@ void PluginWindowsTest::menuBarThatIsHidden()
     ProgramWindow window;
     window.menuBar()->hide();
     window.show();
-    QTRY_VERIFY(pluginMenu(window));
+    QTRY_VERIFY_WITH_TIMEOUT(pluginMenu(window), patience);
     QVERIFY(window.menuBar()->isHidden());
 }
 
@@ -164,7 +173,7 @@ void PluginWindowsTest::menuBarThatComesLate()
     waitForPlugin();
     QVERIFY(!window.menuWidget());
     window.menuBar()->addMenu("&File"_s);
-    QTRY_VERIFY(pluginMenu(window));
+    QTRY_VERIFY_WITH_TIMEOUT(pluginMenu(window), patience);
 }
 
 void PluginWindowsTest::partsThatComeLate()
@@ -175,7 +184,7 @@ void PluginWindowsTest::partsThatComeLate()
     waitForPlugin();
     QVERIFY(!pluginMenu(window));
     window.addToolBar("Late"_s);
-    QTRY_VERIFY(pluginMenu(window));
+    QTRY_VERIFY_WITH_TIMEOUT(pluginMenu(window), patience);
 }
 
 void PluginWindowsTest::windowsThatDoNotCount()
@@ -198,7 +207,7 @@ void PluginWindowsTest::windowsThatDoNotCount()
     (new QVBoxLayout(&other))->addWidget(inDialog);
     other.show();
 
-    QTRY_VERIFY(pluginMenu(outer));
+    QTRY_VERIFY_WITH_TIMEOUT(pluginMenu(outer), patience);
     waitForPlugin();
     QVERIFY(!pluginMenu(plain));
     QVERIFY(!pluginMenu(*inner));
@@ -214,7 +223,7 @@ void PluginWindowsTest::severalWindowsSwitchTogether()
     second.setObjectName("second"_s);
     first.show();
     second.show();
-    QTRY_VERIFY(pluginMenu(first) && pluginMenu(second));
+    QTRY_VERIFY_WITH_TIMEOUT(pluginMenu(first) && pluginMenu(second), patience);
     pluginMenu(first)->saveCurrentLayoutAs("several"_s);
     first.arrange(Qt::RightDockWidgetArea, Qt::BottomToolBarArea);
     second.arrange(Qt::TopDockWidgetArea, Qt::LeftToolBarArea);
@@ -229,7 +238,7 @@ void PluginWindowsTest::dockWidgetPerDocument()
 {
     ProgramWindow window;
     window.show();
-    QTRY_VERIFY(pluginMenu(window));
+    QTRY_VERIFY_WITH_TIMEOUT(pluginMenu(window), patience);
     auto* dock = new QDockWidget("document.txt"_s, &window);
     dock->setObjectName("document"_s);
     window.addDockWidget(Qt::BottomDockWidgetArea, dock);
@@ -250,7 +259,7 @@ void PluginWindowsTest::namelessPartsComeBack()
     window.addDockWidget(Qt::RightDockWidgetArea, dock);
     window.addToolBar(Qt::BottomToolBarArea, bar);
     window.show();
-    QTRY_VERIFY(pluginMenu(window));
+    QTRY_VERIFY_WITH_TIMEOUT(pluginMenu(window), patience);
     pluginMenu(window)->saveCurrentLayoutAs("nameless"_s);
     window.addDockWidget(Qt::TopDockWidgetArea, dock);
     window.addToolBar(Qt::LeftToolBarArea, bar);
@@ -265,20 +274,35 @@ void PluginWindowsTest::namelessPartsComeBack()
 void PluginWindowsTest::ownStateIsTheSame()
 {
     ProgramWindow window;
+    window.setObjectName("own"_s);
     window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
     const QByteArray before = window.saveState();
-    QTRY_VERIFY(pluginMenu(window));
+    QTRY_VERIFY_WITH_TIMEOUT(pluginMenu(window), patience);
     QCOMPARE(window.saveState(), before);
     pluginMenu(window)->saveCurrentLayoutAs("same"_s);
     switchTo(*pluginMenu(window), "same"_s);
     QCOMPARE(window.saveState(), before);
 }
 
+void PluginWindowsTest::sizeStaysTheProgramsOwn()
+{
+    for (const int width : {600, 450}) {
+        ProgramWindow window;
+        window.setObjectName("sized"_s);
+        window.resize(width, 400);
+        window.show();
+        QTRY_VERIFY_WITH_TIMEOUT(pluginMenu(window), patience);
+        QCOMPARE(window.width(), width);
+        window.close();
+    }
+}
+
 void PluginWindowsTest::buttonIsInAToolBar()
 {
     ProgramWindow window;
     window.show();
-    QTRY_VERIFY(pluginMenu(window));
+    QTRY_VERIFY_WITH_TIMEOUT(pluginMenu(window), patience);
     QVERIFY(!buttonEntry(window)->isChecked());
     QCOMPARE(window.findChildren<QToolBar*>().size(), 1);
     const QByteArray before = window.saveState();
@@ -290,12 +314,12 @@ void PluginWindowsTest::buttonIsInAToolBar()
 
     buttonEntry(window)->trigger();
     QVERIFY(!window.findChild<QToolBar*>("panorel-layouts"_s));
-    QCOMPARE(window.saveState(), before);
+    QTRY_COMPARE_WITH_TIMEOUT(window.saveState(), before, patience);
 
     buttonEntry(window)->trigger();
     bar = window.findChild<QToolBar*>("panorel-layouts"_s);
     bar->toggleViewAction()->trigger();
-    QTRY_VERIFY(!buttonEntry(window)->isChecked());
+    QTRY_VERIFY_WITH_TIMEOUT(!buttonEntry(window)->isChecked(), patience);
 }
 
 void PluginWindowsTest::buttonLeavesBeforeTheProgramSaves()
@@ -310,7 +334,7 @@ void PluginWindowsTest::buttonLeavesBeforeTheProgramSaves()
     };
     SavingWindow window;
     window.show();
-    QTRY_VERIFY(pluginMenu(window));
+    QTRY_VERIFY_WITH_TIMEOUT(pluginMenu(window), patience);
     const QByteArray before = window.saveState();
     buttonEntry(window)->trigger();
     QVERIFY(window.saveState() != before);
@@ -330,12 +354,12 @@ void PluginWindowsTest::buttonComesBackIfClosingIsRefused()
     };
     StayingWindow window;
     window.show();
-    QTRY_VERIFY(pluginMenu(window));
+    QTRY_VERIFY_WITH_TIMEOUT(pluginMenu(window), patience);
     buttonEntry(window)->trigger();
     auto* const bar = window.findChild<QToolBar*>("panorel-layouts"_s);
     window.close();
     QVERIFY(!bar->isVisible());
-    QTRY_VERIFY(bar->isVisible());
+    QTRY_VERIFY_WITH_TIMEOUT(bar->isVisible(), patience);
     buttonEntry(window)->trigger();
 }
 
@@ -344,12 +368,12 @@ void PluginWindowsTest::buttonOfTheLastRun()
     {
         ProgramWindow window;
         window.show();
-        QTRY_VERIFY(pluginMenu(window));
+        QTRY_VERIFY_WITH_TIMEOUT(pluginMenu(window), patience);
         buttonEntry(window)->trigger();
     }
     ProgramWindow window;
     window.show();
-    QTRY_VERIFY(pluginMenu(window));
+    QTRY_VERIFY_WITH_TIMEOUT(pluginMenu(window), patience);
     QVERIFY(buttonEntry(window)->isChecked());
     QVERIFY(window.findChild<QToolBar*>("panorel-layouts"_s));
     buttonEntry(window)->trigger();
@@ -359,11 +383,11 @@ void PluginWindowsTest::windowThatIsDeleted()
 {
     auto* window = new ProgramWindow;
     window->show();
-    QTRY_VERIFY(pluginMenu(*window));
+    QTRY_VERIFY_WITH_TIMEOUT(pluginMenu(*window), patience);
     delete window->menuBar();
     QCoreApplication::processEvents();
     window->menuBar()->addMenu("&File"_s);
-    QTRY_VERIFY(pluginMenu(*window));
+    QTRY_VERIFY_WITH_TIMEOUT(pluginMenu(*window), patience);
     delete window;
     auto* shortLived = new ProgramWindow;
     shortLived->show();

@@ -8,6 +8,10 @@
 
 using namespace Panorel::Tests;
 
+static const char* const commandNames[] = {
+    "check", "show",   "diff", "render",          "tidy", "copy", "rename",
+    "move",  "remove", "run",  "install-launcher"};
+
 /** What all commands have in common: help, wrong calls, and files that cannot be worked on. */
 class ToolCommonTest : public ToolTest
 {
@@ -51,8 +55,7 @@ void ToolCommonTest::helpListsEachCommand()
     for (const char* arguments : {"--help", "help", "help help", "help --help"}) {
         const CommandResult result = panorel(arguments);
         QCOMPARE(result.status, 0);
-        for (const char* command :
-             {"check", "show", "diff", "render", "tidy", "copy", "rename", "move", "remove"})
+        for (const char* command : commandNames)
             QVERIFY2(result.output.contains("\n  " + QByteArray(command) + " "), command);
     }
 }
@@ -60,8 +63,7 @@ void ToolCommonTest::helpListsEachCommand()
 void ToolCommonTest::helpOfACommand_data()
 {
     QTest::addColumn<QString>("arguments");
-    for (const char* command :
-         {"check", "show", "diff", "render", "tidy", "copy", "rename", "move", "remove"}) {
+    for (const char* command : commandNames) {
         QTest::newRow(command) << QStringLiteral("help ") + QLatin1String(command);
         QTest::addRow("%s --help", command) << QLatin1String(command) + QStringLiteral(" --help");
     }
@@ -264,8 +266,7 @@ void ToolCommonTest::messagesNameOptionsAsTyped()
 void ToolCommonTest::completionOffersWhatACommandTakes_data()
 {
     QTest::addColumn<QString>("command");
-    for (const char* command :
-         {"check", "show", "diff", "render", "tidy", "copy", "rename", "move", "remove"})
+    for (const char* command : commandNames)
         QTest::newRow(command) << QString::fromLatin1(command);
 }
 

@@ -52,10 +52,9 @@ void KitCatalogueTest::initTestCase()
 {
     const QString file = m_folder.filePath(QStringLiteral("source.ts"));
     QProcess lupdate;
-    lupdate.start(QStringLiteral(LUPDATE),
-                  {QStringLiteral("-I"), QStringLiteral(INCLUDE_DIR), QStringLiteral(KIT_DIR),
-                   QStringLiteral(PLUGIN_DIR), QStringLiteral(TOOL_DIR), QStringLiteral("-ts"),
-                   file});
+    lupdate.start(QStringLiteral(LUPDATE), {QStringLiteral("-I"), QStringLiteral(INCLUDE_DIR),
+                                            QStringLiteral(KIT_DIR), QStringLiteral(PLUGIN_DIR),
+                                            QStringLiteral(TOOL_DIR), QStringLiteral("-ts"), file});
     QVERIFY2(lupdate.waitForFinished(), qPrintable(lupdate.errorString()));
     const Catalogue source = Catalogue::read(file);
     for (const Message& message : source.messages())

@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: MIT
+#include "ToolTest.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Panorel::Tests;
+
+/** "panorel install-launcher", with folders of its own for the user and the system. */
+class ToolLauncherTest : public ToolTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void eachCommandIsStarted();
+    void commandByItsPath();
+    void mergingLauncher();
+    void fileByItsPath();
+    void installingAgain();
+    void removing();
+    void ownLauncherStays();
+    void unusableLaunchers_data();
+    void unusableLaunchers();
+
+private:
+    void prepare()
+    {
+        QVERIFY(QDir(folder()).mkpath(QStringLiteral("system/applications")));
+        QVERIFY(QDir(folder()).mkpath(QStringLiteral("user/applications")));
+    }
+
+    CommandResult launcher(const QStringList& arguments, const QStringList& environment = {})
+    {
+        const QStringList variables{QStringLiteral("XDG_DATA_HOME=") + path("user"),
+                                    QStringLiteral("XDG_DATA_DIRS=") + path("system"),
+                                    QStringLiteral("PATH=") + programs() +
+                                        QStringLiteral(":/usr/bin:/bin")};
+        return runPanorel(QStringList{QStringLiteral("install-launcher")} + arguments, folder(),
+                          QByteArray(), variables + environment);
+    }
+
+    static QString programs() { return QFileInfo(QStringLiteral(PANOREL_COMMAND)).path(); }
+};
+
+static const QByteArray editor = "[Desktop Entry]\n"
+                                 "Type=Application\n"
+                                 "Name=Editor\n"
+                                 "Exec=editor %F\n"
+                                 "TryExec=editor\n"
+                                 "DBusActivatable=true\n"
+                                 "Actions=New;\n"
+                                 "\n"
+                                 "[Desktop Action New]\n"
+                                 "Name=New\n"
+                                 "Exec = editor --new \"a b\"\n";
+
+static const QByteArray editorWithLayouts = "[Desktop Entry]\n"
+                                            "X-Panorel-Launcher=true\n"
+                                            "Type=Application\n"
+                                            "Name=Editor\n"
+                                            "Exec=panorel run editor %F\n"
+                                            "TryExec=editor\n"
+                                            "DBusActivatable=false\n"
+                                            "Actions=New;\n"
+                                            "\n"
+                                            "[Desktop Action New]\n"
+                                            "Name=New\n"
+                                            "Exec=panorel run editor --new \"a b\"\n";
+
+void ToolLauncherTest::eachCommandIsStarted()
+{
+    prepare();
+    write("system/applications/editor.desktop", editor);
+    const CommandResult result = launcher({QStringLiteral("editor.desktop")});
+    QCOMPARE(result.messages, QByteArray());
+    QCOMPARE(result.status, 0);
+    QCOMPARE(result.output, path("user/applications/editor.desktop").toUtf8() + '\n');
+    QCOMPARE(read("user/applications/editor.desktop"), editorWithLayouts);
+    QCOMPARE(read("system/applications/editor.desktop"), editor);
+}
+
+// A desktop would not find it in the user's PATH.
+void ToolLauncherTest::commandByItsPath()
+{
+    prepare();
+    write("system/applications/editor.desktop", editor);
+    QCOMPARE(launcher({QStringLiteral("editor")}, {QStringLiteral("PATH=/usr/bin:/bin")}).status,
+             0);
+    const QByteArray command =
+        "Exec=\"" + QFileInfo(QStringLiteral(PANOREL_COMMAND)).canonicalFilePath().toUtf8() +
+        "\" run editor %F\n";
+    QVERIFY2(read("user/applications/editor.desktop").contains(command), command.constData());
+}
+
+void ToolLauncherTest::mergingLauncher()
+{
+    prepare();
+    write("system/applications/editor.desktop", editor);
+    QCOMPARE(launcher({QStringLiteral("--merge"), QStringLiteral("editor.desktop")}).status, 0);
+    QVERIFY(
+        read("user/applications/editor.desktop").contains("Exec=panorel run --merge editor %F"));
+}
+
+void ToolLauncherTest::fileByItsPath()
+{
+    prepare();
+    write("other.desktop", editor);
+    QCOMPARE(launcher({QStringLiteral("./other.desktop")}).status, 0);
+    QCOMPARE(read("user/applications/other.desktop"), editorWithLayouts);
+}
+
+void ToolLauncherTest::installingAgain()
+{
+    prepare();
+    write("system/applications/editor.desktop", editor);
+    QCOMPARE(launcher({QStringLiteral("editor.desktop")}).status, 0);
+    QCOMPARE(launcher({QStringLiteral("editor.desktop")}).status, 0);
+    QCOMPARE(read("user/applications/editor.desktop"), editorWithLayouts);
+}
+
+void ToolLauncherTest::removing()
+{
+    prepare();
+    write("system/applications/editor.desktop", editor);
+    const QStringList arguments{QStringLiteral("--remove"), QStringLiteral("editor.desktop")};
+    QCOMPARE(launcher(arguments).status, 2);
+    QCOMPARE(launcher({QStringLiteral("editor.desktop")}).status, 0);
+    QCOMPARE(launcher(arguments).status, 0);
+    QVERIFY(!exists("user/applications/editor.desktop"));
+    QVERIFY(exists("system/applications/editor.desktop"));
+}
+
+void ToolLauncherTest::ownLauncherStays()
+{
+    prepare();
+    write("user/applications/editor.desktop", editor);
+    QCOMPARE(launcher({QStringLiteral("editor.desktop")}).status, 2);
+    QCOMPARE(launcher({QStringLiteral("--remove"), QStringLiteral("editor.desktop")}).status, 2);
+    QCOMPARE(read("user/applications/editor.desktop"), editor);
+}
+
+void ToolLauncherTest::unusableLaunchers_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("missing") << QByteArray();
+    QTest::newRow("empty") << QByteArray("");
+    QTest::newRow("link") << QByteArray("[Desktop Entry]\nType=Link\nURL=file:///\n");
+    QTest::newRow("Flatpak") << QByteArray(
+        "[Desktop Entry]\nExec=/usr/bin/flatpak run --branch=stable org.example.Editor\n");
+    QTest::newRow("snap") << QByteArray("[Desktop Entry]\nExec=env A=b /snap/bin/editor %U\n");
+    QTest::newRow("AppImage") << QByteArray("[Desktop Entry]\nExec=/opt/Editor.AppImage %U\n");
+}
+
+void ToolLauncherTest::unusableLaunchers()
+{
+    QFETCH(QByteArray, content);
+    prepare();
+    if (!content.isNull())
+        write("system/applications/editor.desktop", content);
+    const CommandResult result = launcher({QStringLiteral("editor.desktop")});
+    QCOMPARE(result.status, 2);
+    QVERIFY2(result.messages.startsWith("panorel: "), result.messages.constData());
+    QVERIFY(!exists("user/applications/editor.desktop"));
+}
+
+QTEST_GUILESS_MAIN(ToolLauncherTest)
+#include "ToolLauncherTest.moc"
