@@ -132,6 +132,21 @@ public:
     /** The same with the previous one. */
     QAction* previousAction() const;
 
+    /** Whether the windows are locked. */
+    bool isLocked() const;
+    /**
+     * Locks the windows, also those and the parts of them that come later: dock widgets cannot be
+     * moved, floated or closed, tool bars cannot be moved, tabs cannot be dragged, and floating
+     * parts stay where they are. Menus still show and hide parts, sizes can be changed, and layouts
+     * be switched. Kept in the file: start() takes over what the file says, if anything.
+     *
+     * Unlocking, which the end of the Manager or of this object does too, gives each part back what
+     * it allowed. QDockWidget::features() and QToolBar::isMovable() are less meanwhile. If the
+     * application sets them while the windows are locked, it is what it has set that a part
+     * gets then; but what it only takes away, which is away already, comes back.
+     */
+    void setLocked(bool locked);
+
     /**
      * Undo and redo of all changes of the layouts and of each switch between them, whoever made
      * them. Owned by this object. It may be shown in a QUndoView and be added to a QUndoGroup. Its
@@ -164,6 +179,8 @@ public:
     QStringList check() const;
 
 Q_SIGNALS:
+    /** The windows were locked or unlocked, and the parts are so already. */
+    void lockedChanged(bool locked);
     /** One sentence for the user, such as for a status bar. A problem() is reported once. */
     void message(const QString& text);
 

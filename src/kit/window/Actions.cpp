@@ -22,6 +22,7 @@ Actions::Actions(QObject& owner)
     : shortcuts(disabledAction(owner))
     , next(disabledAction(owner))
     , previous(disabledAction(owner))
+    , lock(disabledAction(owner))
     , history(new QUndoStack(&owner))
 {
     for (int slot = 1; slot <= Slots::count; ++slot)

@@ -22,6 +22,7 @@ struct Actions
     QAction* shortcuts;
     QAction* next;
     QAction* previous;
+    QAction* lock;
     /** Null if the application has deleted it. */
     QPointer<QUndoStack> history;
 };

@@ -24,9 +24,13 @@ Layouts::Layouts(Manager& manager, QObject* parent)
     // While the owner, which is its child, is still there.
     connect(&manager, &QObject::destroyed, this, [this] {
         m_session->keeper.stop();
+        const bool wasLocked = isLocked();
         m_session.reset();
+        if (wasLocked)
+            Q_EMIT lockedChanged(false);
     });
     connect(&m_session->keeper, &Detail::Keeper::message, this, &Layouts::message);
+    connect(&m_session->lock, &Detail::Lock::lockedChanged, this, &Layouts::lockedChanged);
     connect(&m_session->history, &Detail::History::message, this, &Layouts::message);
     connect(&m_session->transfer, &Detail::Transfer::message, this, &Layouts::message);
 }
@@ -112,6 +116,17 @@ QAction* Layouts::nextAction() const
 QAction* Layouts::previousAction() const
 {
     return m_actions->previous;
+}
+
+bool Layouts::isLocked() const
+{
+    return m_session && m_session->lock.isLocked();
+}
+
+void Layouts::setLocked(bool locked)
+{
+    if (m_session)
+        m_session->lock.setLocked(locked);
 }
 
 QUndoStack* Layouts::history() const

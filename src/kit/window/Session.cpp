@@ -15,6 +15,7 @@ Session::Session(Manager& theManager, WindowOwner& theOwner, const Actions& acti
     , transfer(manager)
     , layoutSlots(manager, stored, windows, keeper, actions)
     , cycle(manager, actions)
+    , lock(owner, windows, keeper, actions)
 {}
 
 } // namespace Panorel::Kit::Detail

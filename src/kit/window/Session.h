@@ -6,6 +6,7 @@
 #include "DockFactory.h"
 #include "Giver.h"
 #include "Keeper.h"
+#include "Lock.h"
 #include "Names.h"
 #include "Slots.h"
 #include "StoredViews.h"
@@ -37,6 +38,7 @@ struct Session
     Transfer transfer;
     Slots layoutSlots;
     Cycle cycle;
+    Lock lock;
 };
 
 } // namespace Panorel::Kit::Detail
