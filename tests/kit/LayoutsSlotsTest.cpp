@@ -10,8 +10,10 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QMenu>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QToolButton>
 
 using namespace Panorel;
 using namespace Panorel::Kit;
@@ -79,6 +81,8 @@ private Q_SLOTS:
     void shortcutsWorkInTheWindow();
     void shortcutsOfTheApplicationStay();
     void shortcutsAreKept();
+    void theMenuShowsShortcuts();
+    void theMenuHasTheEntries();
     void nextAndPreviousGoAround();
     void nothingIsLeftWithoutTheManager();
 
@@ -244,6 +248,57 @@ void LayoutsSlotsTest::shortcutsAreKept()
     program.layouts.setSlotShortcutsEnabled(true);
     program.layouts.start(path());
     QVERIFY(!program.layouts.areSlotShortcutsEnabled());
+}
+
+void LayoutsSlotsTest::theMenuShowsShortcuts()
+{
+    writeFile({{"1"_s, QJsonArray{"G"_s, "b & c"_s}},
+               {"2"_s, QJsonArray{"H"_s, "a"_s}},
+               {"9"_s, QJsonArray{"G"_s, "d"_s}}});
+    Program program;
+    program.layouts.start(path());
+    const QList<QMenu*> menus{program.layouts.createMenu(&program.window),
+                              program.layouts.createButton(&program.window)->menu()};
+    for (QMenu* menu : menus) {
+        const auto shownTexts = [menu] {
+            Q_EMIT menu->aboutToShow();
+            return textsOf(menu->actions()).mid(0, 3);
+        };
+        QCOMPARE(shownTexts(), lines({"a", "b && c", "d"}));
+        program.layouts.setSlotShortcutsEnabled(true);
+        QCOMPARE(shownTexts(), lines({"a", "b && c\tCtrl+Alt+1", "d\tCtrl+Alt+9"}));
+        QCOMPARE(shownTexts(), lines({"a", "b && c\tCtrl+Alt+1", "d\tCtrl+Alt+9"}));
+        menu->actions().at(1)->trigger();
+        QCOMPARE(program.active(), "G/b & c"_s);
+        program.layouts.setSlotShortcutsEnabled(false);
+        QCOMPARE(shownTexts(), lines({"a", "b && c", "d"}));
+    }
+}
+
+void LayoutsSlotsTest::theMenuHasTheEntries()
+{
+    Program program;
+    program.createViews();
+    const auto menu = std::unique_ptr<QMenu>(program.layouts.createMenu(nullptr));
+    const auto other = std::unique_ptr<QMenu>(program.layouts.createMenu(nullptr));
+    const auto entry = [&](const QString& text) {
+        const int index = textsOf(menu->actions()).indexOf(text);
+        return menu->actions().value(index);
+    };
+    const QStringList texts =
+        lines({"&Next Layout", "&Previous Layout", "Use S&hortcuts", "Loc&k Layout"});
+    for (const QString& text : texts)
+        QVERIFY2(entry(text), qPrintable(text));
+    entry(texts[0])->trigger();
+    QCOMPARE(program.active(), "G/a"_s);
+    entry(texts[1])->trigger();
+    QCOMPARE(program.active(), "G/d"_s);
+    entry(texts[2])->trigger();
+    QVERIFY(program.layouts.areSlotShortcutsEnabled());
+    entry(texts[3])->trigger();
+    QVERIFY(program.layouts.isLocked());
+    program.layouts.setLocked(false);
+    QVERIFY(!entry(texts[3])->isChecked());
 }
 
 void LayoutsSlotsTest::nextAndPreviousGoAround()

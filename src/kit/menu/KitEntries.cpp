@@ -20,6 +20,8 @@ KitEntries::KitEntries(Menu& menu, Layouts& layouts, Session& session)
     menu.addSeparator();
     addGroups();
     addUndoAndRedo();
+    menu.addSeparator();
+    addActions();
     // The menu itself goes on without the kit.
     connect(&layouts, &QObject::destroyed, this, &KitEntries::disable);
     menu.setToolTipsVisible(true);
@@ -44,6 +46,15 @@ void KitEntries::addUndoAndRedo()
         add(stack->createUndoAction(&m_menu));
         add(stack->createRedoAction(&m_menu));
     }
+}
+
+// They belong to the Layouts, so every menu has the same.
+void KitEntries::addActions()
+{
+    add(m_session.actions.next);
+    add(m_session.actions.previous);
+    add(m_session.actions.shortcuts);
+    add(m_session.actions.lock);
 }
 
 void KitEntries::disable()

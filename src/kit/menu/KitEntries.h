@@ -34,6 +34,7 @@ private:
     void add(QAction* entry);
     void addGroups();
     void addUndoAndRedo();
+    void addActions();
     void disable();
 
     Menu& m_menu;

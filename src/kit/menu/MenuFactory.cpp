@@ -6,6 +6,7 @@
 #include "FileEntries.h"
 #include "KitEntries.h"
 #include "NameField.h"
+#include "SlotTexts.h"
 
 #include "../window/Session.h"
 
@@ -35,11 +36,13 @@ void retire(Menu& menu)
     menu.setEnabled(false);
 }
 
-void cure(Menu& menu, Layouts& layouts, Manager& manager)
+void cure(Menu& menu, Layouts& layouts, Session& session)
 {
+    Manager& manager = session.manager;
     // A hundred layouts are more than a screen has room for.
     menu.setStyleSheet(QStringLiteral("QMenu { menu-scrollable: 1; }"));
     new EntryTexts(menu, manager);
+    new SlotTexts(menu, manager, session.layoutSlots);
     auto* nameField = new NameField(menu);
     QObject::connect(nameField, &NameField::message, &layouts, &Layouts::message);
     QObject::connect(&manager, &QObject::destroyed, &menu, [&menu] { retire(menu); });
@@ -51,7 +54,7 @@ Menu* MenuFactory::createMenu(Layouts& layouts, Session& session, QWidget* paren
 {
     auto* menu = new Menu(&session.manager, /*extended=*/true, parent);
     menu->setTitle(Text::tr("&Layouts"));
-    cure(*menu, layouts, session.manager);
+    cure(*menu, layouts, session);
     auto* files = new FileEntries(*menu, session.transfer);
     QObject::connect(files, &FileEntries::message, &layouts, &Layouts::message);
     new KitEntries(*menu, layouts, session);
@@ -62,7 +65,7 @@ ViewButton* MenuFactory::createButton(Layouts& layouts, Session& session, QWidge
 {
     auto* button = new ViewButton(&session.manager, Text::tr("Layouts"), parent);
     // The button's menu is its child.
-    cure(*static_cast<Menu*>(button->menu()), layouts, session.manager);
+    cure(*static_cast<Menu*>(button->menu()), layouts, session);
     new ButtonCures(*button, session.manager);
     return button;
 }

@@ -3,9 +3,10 @@
 
 namespace Panorel::Kit::Detail {
 
-Session::Session(Manager& theManager, WindowOwner& theOwner, const Actions& actions)
+Session::Session(Manager& theManager, WindowOwner& theOwner, const Actions& theActions)
     : manager(theManager)
     , owner(theOwner)
+    , actions(theActions)
     , stored(manager, owner)
     , giver(owner, names, docks)
     , activity(manager, owner, stored, giver)

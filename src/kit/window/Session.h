@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Actions.h"
 #include "Activity.h"
 #include "Cycle.h"
 #include "DockFactory.h"
@@ -18,8 +19,6 @@
 
 namespace Panorel::Kit::Detail {
 
-struct Actions;
-
 /** All that a Layouts is made of, as long as its Manager lives. Each knows those before it only. */
 struct Session
 {
@@ -27,6 +26,7 @@ struct Session
 
     Manager& manager;
     WindowOwner& owner;
+    const Actions& actions;
     Names names;
     DockFactory docks;
     StoredViews stored;

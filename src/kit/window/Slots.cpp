@@ -43,6 +43,9 @@ Slots::Slots(Manager& manager, StoredViews& stored, Windows& windows, Keeper& ke
         connect(slot.action, &QAction::triggered, this, [this, index] { activate(index); });
     }
     m_shortcuts.setText(tr("Use S&hortcuts"));
+    m_shortcuts.setToolTip(tr("%1 to %2 go to the layouts that were given these keys")
+                               .arg(shortcutOf(0).toString(QKeySequence::NativeText),
+                                    shortcutOf(count - 1).toString(QKeySequence::NativeText)));
     m_shortcuts.setCheckable(true);
     m_shortcuts.setEnabled(true);
     connect(&m_shortcuts, &QAction::toggled, this, &Slots::setShortcutsEnabled);
