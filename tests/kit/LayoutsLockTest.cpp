@@ -30,13 +30,15 @@ struct Program
     Program()
     {
         layouts.addWindow(window, "w"_s);
+        window.move(20, 20);
         window.show();
-        QCoreApplication::processEvents();
+        isShown = QTest::qWaitForWindowExposed(&window);
     }
 
     FourSidesWindow window;
     Manager manager{{"G"_s}, /*mergeOnApply=*/false};
     Layouts layouts{manager};
+    bool isShown = false;
 };
 
 // Where the desktop would draw the title of a floating one, Qt draws this.
@@ -234,6 +236,7 @@ void LayoutsLockTest::dockedWidgetsCannotBeDragged()
 void LayoutsLockTest::floatingWidgetsCannotBeDragged()
 {
     Program p;
+    QVERIFY(p.isShown);
     giveTitle(*p.window.right);
     p.window.right->setFloating(true);
     p.window.right->setGeometry(900, 100, 200, 200);
