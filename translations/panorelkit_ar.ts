@@ -17,6 +17,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Cycle</name>
+    <message>
+        <source>&amp;Next Layout</source>
+        <translation>ال&amp;تخطيط التالي</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Layout</source>
+        <translation>التخطيط ال&amp;سابق</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -29,6 +40,13 @@
     <message>
         <source>Adds the layouts of a file, in place of those of the same name</source>
         <translation>إضافة تخطيطات من ملف لتحل محل التخطيطات التي لها الاسم نفسه</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::GroupMenu</name>
+    <message>
+        <source>&amp;Group</source>
+        <translation>&amp;مجموعة</translation>
     </message>
 </context>
 <context>
@@ -67,6 +85,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Lock</name>
+    <message>
+        <source>Loc&amp;k Layout</source>
+        <translation>&amp;قفل التخطيط</translation>
+    </message>
+    <message>
+        <source>Nothing can be moved, floated or closed by accident</source>
+        <translation>لا يمكن نقل أي شيء أو فصله أو إغلاقه عن طريق الخطأ</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameField</name>
     <message>
         <source>New name, then Return</source>
@@ -79,6 +108,21 @@
     <message>
         <source>A layout needs a name: type one, then press Return.</source>
         <translation>يحتاج التخطيط إلى اسم: اكتب اسمًا ثم اضغط Enter.</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::Slots</name>
+    <message>
+        <source>Use S&amp;hortcuts</source>
+        <translation>&amp;استخدام الاختصارات</translation>
+    </message>
+    <message>
+        <source>%1 to %2 go to the layouts that were given these keys</source>
+        <translation>من %1 إلى %2 للانتقال إلى التخطيطات المخصصة لهذه المفاتيح</translation>
+    </message>
+    <message>
+        <source>Empty Slot %1</source>
+        <translation>الموضع %1 فارغ</translation>
     </message>
 </context>
 <context>
@@ -367,6 +411,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Plugin::ButtonBar</name>
+    <message>
+        <source>Show Button in a Tool Bar</source>
+        <translation>إظهار الزر في شريط أدوات</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>التخطيطات</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool</name>
     <message>
         <source>there is no command &quot;%1&quot;</source>
@@ -532,6 +587,14 @@
         <source>&quot;panorel help COMMAND&quot; tells how a command is used. A FILE is a document of layouts, the state of one window, or a settings file that holds such states; &quot;-&quot; is standard input.</source>
         <translation>&quot;panorel help COMMAND&quot; يعرض طريقة استخدام أمر. FILE هو مستند تخطيطات أو حالة نافذة واحدة أو ملف إعدادات يحتوي على مثل هذه الحالات؛ &quot;-&quot; هو الدخل القياسي.</translation>
     </message>
+    <message>
+        <source>Starts a Qt 5 program with a menu for the layouts of its windows.</source>
+        <translation>تشغيل برنامج Qt 5 مع قائمة لتخطيطات نوافذه.</translation>
+    </message>
+    <message>
+        <source>Lets the desktop start a program by &quot;panorel run&quot;.</source>
+        <translation>جعل سطح المكتب يشغّل برنامجًا عبر &quot;panorel run&quot;.</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Tool::Console</name>
@@ -694,6 +757,33 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Tool::LauncherCommand</name>
+    <message>
+        <source>there is no such launcher</source>
+        <translation>لا يوجد مشغّل كهذا</translation>
+    </message>
+    <message>
+        <source>starts no program</source>
+        <translation>لا يشغّل أي برنامج</translation>
+    </message>
+    <message>
+        <source>starts a program that has its own Qt, which does not load plugins</source>
+        <translation>يشغّل برنامجًا له نسخة Qt خاصة به لا تحمّل الإضافات</translation>
+    </message>
+    <message>
+        <source>is a launcher of your own and stays as it is</source>
+        <translation>مشغّل أنشأته بنفسك ويبقى كما هو</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>ترك أشرطة الأدوات كما هي عند تبديل التخطيط.</translation>
+    </message>
+    <message>
+        <source>Takes the launcher away again.</source>
+        <translation>إزالة المشغّل مرة أخرى.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool::RenderCommand</name>
     <message>
         <source>Window layout</source>
@@ -734,6 +824,33 @@
     <message>
         <source>holds no state of a window</source>
         <translation>لا يحتوي على حالة نافذة</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Tool::RunCommand</name>
+    <message>
+        <source>it cannot be started</source>
+        <translation>يتعذر تشغيله</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>ترك أشرطة الأدوات كما هي عند تبديل التخطيط.</translation>
+    </message>
+    <message>
+        <source>Shows which programs have layouts, and starts none.</source>
+        <translation>عرض البرامج التي لها تخطيطات دون تشغيل أي منها.</translation>
+    </message>
+    <message>
+        <source>--list takes no program</source>
+        <translation>لا يقبل --list برنامجًا</translation>
+    </message>
+    <message>
+        <source>a program is missing</source>
+        <translation>ينقص برنامج</translation>
+    </message>
+    <message>
+        <source>the plugin is not installed (Debian: panorel-plugin)</source>
+        <translation>الإضافة غير مثبتة (Debian: panorel-plugin)</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Cycle</name>
+    <message>
+        <source>&amp;Next Layout</source>
+        <translation>&amp;Disposició següent</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Layout</source>
+        <translation>Disposició &amp;anterior</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -29,6 +40,13 @@
     <message>
         <source>Adds the layouts of a file, in place of those of the same name</source>
         <translation>Afegeix les disposicions d’un fitxer, en lloc de les que tenen el mateix nom</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::GroupMenu</name>
+    <message>
+        <source>&amp;Group</source>
+        <translation>&amp;Grup</translation>
     </message>
 </context>
 <context>
@@ -67,6 +85,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Lock</name>
+    <message>
+        <source>Loc&amp;k Layout</source>
+        <translation>&amp;Bloca la disposició</translation>
+    </message>
+    <message>
+        <source>Nothing can be moved, floated or closed by accident</source>
+        <translation>No es pot moure, separar ni tancar res per accident</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameField</name>
     <message>
         <source>New name, then Return</source>
@@ -79,6 +108,21 @@
     <message>
         <source>A layout needs a name: type one, then press Return.</source>
         <translation>Una disposició necessita un nom: escriviu-ne un i premeu Retorn.</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::Slots</name>
+    <message>
+        <source>Use S&amp;hortcuts</source>
+        <translation>&amp;Usa les dreceres</translation>
+    </message>
+    <message>
+        <source>%1 to %2 go to the layouts that were given these keys</source>
+        <translation>%1 a %2 activen les disposicions que tenen assignades aquestes tecles</translation>
+    </message>
+    <message>
+        <source>Empty Slot %1</source>
+        <translation>Posició %1 buida</translation>
     </message>
 </context>
 <context>
@@ -367,6 +411,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Plugin::ButtonBar</name>
+    <message>
+        <source>Show Button in a Tool Bar</source>
+        <translation>Mostra el botó en una barra d’eines</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>Disposicions</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool</name>
     <message>
         <source>there is no command &quot;%1&quot;</source>
@@ -532,6 +587,14 @@
         <source>&quot;panorel help COMMAND&quot; tells how a command is used. A FILE is a document of layouts, the state of one window, or a settings file that holds such states; &quot;-&quot; is standard input.</source>
         <translation>&quot;panorel help ORDRE&quot; explica com s’utilitza una ordre. Un FILE és un document de disposicions, l’estat d’una finestra o un fitxer de configuració que conté aquests estats; &quot;-&quot; és l’entrada estàndard.</translation>
     </message>
+    <message>
+        <source>Starts a Qt 5 program with a menu for the layouts of its windows.</source>
+        <translation>Inicia un programa de Qt 5 amb un menú per a les disposicions de les seves finestres.</translation>
+    </message>
+    <message>
+        <source>Lets the desktop start a program by &quot;panorel run&quot;.</source>
+        <translation>Fa que l’escriptori iniciï un programa amb &quot;panorel run&quot;.</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Tool::Console</name>
@@ -694,6 +757,33 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Tool::LauncherCommand</name>
+    <message>
+        <source>there is no such launcher</source>
+        <translation>no hi ha cap llançador així</translation>
+    </message>
+    <message>
+        <source>starts no program</source>
+        <translation>no inicia cap programa</translation>
+    </message>
+    <message>
+        <source>starts a program that has its own Qt, which does not load plugins</source>
+        <translation>inicia un programa que té el seu propi Qt, que no carrega connectors</translation>
+    </message>
+    <message>
+        <source>is a launcher of your own and stays as it is</source>
+        <translation>és un llançador creat per vós i queda com està</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Deixa les barres d’eines com estan en canviar de disposició.</translation>
+    </message>
+    <message>
+        <source>Takes the launcher away again.</source>
+        <translation>Torna a treure el llançador.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool::RenderCommand</name>
     <message>
         <source>Window layout</source>
@@ -734,6 +824,33 @@
     <message>
         <source>holds no state of a window</source>
         <translation>no conté cap estat d’una finestra</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Tool::RunCommand</name>
+    <message>
+        <source>it cannot be started</source>
+        <translation>no es pot iniciar</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Deixa les barres d’eines com estan en canviar de disposició.</translation>
+    </message>
+    <message>
+        <source>Shows which programs have layouts, and starts none.</source>
+        <translation>Mostra quins programes tenen disposicions, sense iniciar-ne cap.</translation>
+    </message>
+    <message>
+        <source>--list takes no program</source>
+        <translation>--list no admet cap programa</translation>
+    </message>
+    <message>
+        <source>a program is missing</source>
+        <translation>falta un programa</translation>
+    </message>
+    <message>
+        <source>the plugin is not installed (Debian: panorel-plugin)</source>
+        <translation>el connector no està instal·lat (Debian: panorel-plugin)</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Cycle</name>
+    <message>
+        <source>&amp;Next Layout</source>
+        <translation>&amp;Další rozložení</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Layout</source>
+        <translation>&amp;Předchozí rozložení</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -29,6 +40,13 @@
     <message>
         <source>Adds the layouts of a file, in place of those of the same name</source>
         <translation>Přidá rozložení ze souboru a nahradí jimi rozložení stejného názvu</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::GroupMenu</name>
+    <message>
+        <source>&amp;Group</source>
+        <translation>&amp;Skupina</translation>
     </message>
 </context>
 <context>
@@ -67,6 +85,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Lock</name>
+    <message>
+        <source>Loc&amp;k Layout</source>
+        <translation>&amp;Zamknout rozložení</translation>
+    </message>
+    <message>
+        <source>Nothing can be moved, floated or closed by accident</source>
+        <translation>Nic nelze omylem přesunout, uvolnit ani zavřít</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameField</name>
     <message>
         <source>New name, then Return</source>
@@ -79,6 +108,21 @@
     <message>
         <source>A layout needs a name: type one, then press Return.</source>
         <translation>Rozložení musí mít název: zadejte ho a stiskněte Enter.</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::Slots</name>
+    <message>
+        <source>Use S&amp;hortcuts</source>
+        <translation>Používat &amp;klávesové zkratky</translation>
+    </message>
+    <message>
+        <source>%1 to %2 go to the layouts that were given these keys</source>
+        <translation>%1 až %2 přepínají na rozložení, kterým byly tyto klávesy přiřazeny</translation>
+    </message>
+    <message>
+        <source>Empty Slot %1</source>
+        <translation>Prázdná pozice %1</translation>
     </message>
 </context>
 <context>
@@ -367,6 +411,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Plugin::ButtonBar</name>
+    <message>
+        <source>Show Button in a Tool Bar</source>
+        <translation>Zobrazit tlačítko v panelu nástrojů</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>Rozložení</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool</name>
     <message>
         <source>there is no command &quot;%1&quot;</source>
@@ -532,6 +587,14 @@
         <source>&quot;panorel help COMMAND&quot; tells how a command is used. A FILE is a document of layouts, the state of one window, or a settings file that holds such states; &quot;-&quot; is standard input.</source>
         <translation>&quot;panorel help PŘÍKAZ&quot; vysvětlí použití příkazu. FILE je dokument rozložení, stav jednoho okna nebo soubor nastavení, který takové stavy obsahuje; &quot;-&quot; je standardní vstup.</translation>
     </message>
+    <message>
+        <source>Starts a Qt 5 program with a menu for the layouts of its windows.</source>
+        <translation>Spustí program pro Qt 5 s nabídkou pro rozložení jeho oken.</translation>
+    </message>
+    <message>
+        <source>Lets the desktop start a program by &quot;panorel run&quot;.</source>
+        <translation>Zařídí, aby pracovní plocha spouštěla program pomocí &quot;panorel run&quot;.</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Tool::Console</name>
@@ -694,6 +757,33 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Tool::LauncherCommand</name>
+    <message>
+        <source>there is no such launcher</source>
+        <translation>takový spouštěč neexistuje</translation>
+    </message>
+    <message>
+        <source>starts no program</source>
+        <translation>nespouští žádný program</translation>
+    </message>
+    <message>
+        <source>starts a program that has its own Qt, which does not load plugins</source>
+        <translation>spouští program s vlastním Qt, které nenačítá zásuvné moduly</translation>
+    </message>
+    <message>
+        <source>is a launcher of your own and stays as it is</source>
+        <translation>je váš vlastní spouštěč a zůstane beze změny</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Při přepnutí rozložení ponechá panely nástrojů beze změny.</translation>
+    </message>
+    <message>
+        <source>Takes the launcher away again.</source>
+        <translation>Spouštěč opět odebere.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool::RenderCommand</name>
     <message>
         <source>Window layout</source>
@@ -734,6 +824,33 @@
     <message>
         <source>holds no state of a window</source>
         <translation>neobsahuje žádný stav okna</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Tool::RunCommand</name>
+    <message>
+        <source>it cannot be started</source>
+        <translation>nelze spustit</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Při přepnutí rozložení ponechá panely nástrojů beze změny.</translation>
+    </message>
+    <message>
+        <source>Shows which programs have layouts, and starts none.</source>
+        <translation>Ukáže, které programy mají rozložení, a žádný nespustí.</translation>
+    </message>
+    <message>
+        <source>--list takes no program</source>
+        <translation>--list nepřijímá program</translation>
+    </message>
+    <message>
+        <source>a program is missing</source>
+        <translation>chybí program</translation>
+    </message>
+    <message>
+        <source>the plugin is not installed (Debian: panorel-plugin)</source>
+        <translation>zásuvný modul není nainstalován (Debian: panorel-plugin)</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Cycle</name>
+    <message>
+        <source>&amp;Next Layout</source>
+        <translation>&amp;Næste layout</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Layout</source>
+        <translation>&amp;Forrige layout</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -29,6 +40,13 @@
     <message>
         <source>Adds the layouts of a file, in place of those of the same name</source>
         <translation>Tilføjer layouterne fra en fil i stedet for dem med samme navn</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::GroupMenu</name>
+    <message>
+        <source>&amp;Group</source>
+        <translation>&amp;Gruppe</translation>
     </message>
 </context>
 <context>
@@ -67,6 +85,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Lock</name>
+    <message>
+        <source>Loc&amp;k Layout</source>
+        <translation>&amp;Lås layout</translation>
+    </message>
+    <message>
+        <source>Nothing can be moved, floated or closed by accident</source>
+        <translation>Intet kan flyttes, frigøres eller lukkes ved et uheld</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameField</name>
     <message>
         <source>New name, then Return</source>
@@ -79,6 +108,21 @@
     <message>
         <source>A layout needs a name: type one, then press Return.</source>
         <translation>Et layout skal have et navn: skriv et, og tryk derefter på Retur.</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::Slots</name>
+    <message>
+        <source>Use S&amp;hortcuts</source>
+        <translation>&amp;Brug genveje</translation>
+    </message>
+    <message>
+        <source>%1 to %2 go to the layouts that were given these keys</source>
+        <translation>%1 til %2 skifter til de layouter, som disse taster er tildelt</translation>
+    </message>
+    <message>
+        <source>Empty Slot %1</source>
+        <translation>Tom plads %1</translation>
     </message>
 </context>
 <context>
@@ -367,6 +411,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Plugin::ButtonBar</name>
+    <message>
+        <source>Show Button in a Tool Bar</source>
+        <translation>Vis knappen i en værktøjslinje</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>Layouter</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool</name>
     <message>
         <source>there is no command &quot;%1&quot;</source>
@@ -532,6 +587,14 @@
         <source>&quot;panorel help COMMAND&quot; tells how a command is used. A FILE is a document of layouts, the state of one window, or a settings file that holds such states; &quot;-&quot; is standard input.</source>
         <translation>&quot;panorel help KOMMANDO&quot; fortæller, hvordan en kommando bruges. En FILE er et layoutdokument, et vindues tilstand eller en indstillingsfil, som indeholder sådanne tilstande; &quot;-&quot; er standardinput.</translation>
     </message>
+    <message>
+        <source>Starts a Qt 5 program with a menu for the layouts of its windows.</source>
+        <translation>Starter et Qt 5-program med en menu til layouterne for dets vinduer.</translation>
+    </message>
+    <message>
+        <source>Lets the desktop start a program by &quot;panorel run&quot;.</source>
+        <translation>Lader skrivebordet starte et program med &quot;panorel run&quot;.</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Tool::Console</name>
@@ -694,6 +757,33 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Tool::LauncherCommand</name>
+    <message>
+        <source>there is no such launcher</source>
+        <translation>der findes ingen sådan programstarter</translation>
+    </message>
+    <message>
+        <source>starts no program</source>
+        <translation>starter intet program</translation>
+    </message>
+    <message>
+        <source>starts a program that has its own Qt, which does not load plugins</source>
+        <translation>starter et program med sit eget Qt, som ikke indlæser udvidelsesmoduler</translation>
+    </message>
+    <message>
+        <source>is a launcher of your own and stays as it is</source>
+        <translation>er en programstarter, du selv har lavet, og forbliver, som den er</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Lader værktøjslinjerne være, som de er, når der skiftes layout.</translation>
+    </message>
+    <message>
+        <source>Takes the launcher away again.</source>
+        <translation>Fjerner programstarteren igen.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool::RenderCommand</name>
     <message>
         <source>Window layout</source>
@@ -734,6 +824,33 @@
     <message>
         <source>holds no state of a window</source>
         <translation>indeholder ingen vinduestilstand</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Tool::RunCommand</name>
+    <message>
+        <source>it cannot be started</source>
+        <translation>kan ikke startes</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Lader værktøjslinjerne være, som de er, når der skiftes layout.</translation>
+    </message>
+    <message>
+        <source>Shows which programs have layouts, and starts none.</source>
+        <translation>Viser, hvilke programmer der har layouter, og starter ingen.</translation>
+    </message>
+    <message>
+        <source>--list takes no program</source>
+        <translation>--list tager ikke noget program</translation>
+    </message>
+    <message>
+        <source>a program is missing</source>
+        <translation>der mangler et program</translation>
+    </message>
+    <message>
+        <source>the plugin is not installed (Debian: panorel-plugin)</source>
+        <translation>udvidelsesmodulet er ikke installeret (Debian: panorel-plugin)</translation>
     </message>
 </context>
 <context>

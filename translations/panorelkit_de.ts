@@ -17,6 +17,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Cycle</name>
+    <message>
+        <source>&amp;Next Layout</source>
+        <translation>&amp;Nächstes Fensterlayout</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Layout</source>
+        <translation>&amp;Vorheriges Fensterlayout</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -29,6 +40,13 @@
     <message>
         <source>Adds the layouts of a file, in place of those of the same name</source>
         <translation>Fügt die Fensterlayouts einer Datei hinzu und ersetzt dabei gleichnamige</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::GroupMenu</name>
+    <message>
+        <source>&amp;Group</source>
+        <translation>&amp;Gruppe</translation>
     </message>
 </context>
 <context>
@@ -67,6 +85,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Lock</name>
+    <message>
+        <source>Loc&amp;k Layout</source>
+        <translation>&amp;Fensterlayout sperren</translation>
+    </message>
+    <message>
+        <source>Nothing can be moved, floated or closed by accident</source>
+        <translation>Nichts kann versehentlich verschoben, gelöst oder geschlossen werden</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameField</name>
     <message>
         <source>New name, then Return</source>
@@ -79,6 +108,21 @@
     <message>
         <source>A layout needs a name: type one, then press Return.</source>
         <translation>Ein Fensterlayout braucht einen Namen: Namen eingeben, dann die Eingabetaste drücken.</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::Slots</name>
+    <message>
+        <source>Use S&amp;hortcuts</source>
+        <translation>&amp;Tastenkürzel verwenden</translation>
+    </message>
+    <message>
+        <source>%1 to %2 go to the layouts that were given these keys</source>
+        <translation>%1 bis %2 wechseln zu den Fensterlayouts, denen diese Tasten zugeordnet sind</translation>
+    </message>
+    <message>
+        <source>Empty Slot %1</source>
+        <translation>Leerer Platz %1</translation>
     </message>
 </context>
 <context>
@@ -367,6 +411,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Plugin::ButtonBar</name>
+    <message>
+        <source>Show Button in a Tool Bar</source>
+        <translation>Schaltfläche in einer Werkzeugleiste anzeigen</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>Fensterlayouts</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool</name>
     <message>
         <source>there is no command &quot;%1&quot;</source>
@@ -532,6 +587,14 @@
         <source>&quot;panorel help COMMAND&quot; tells how a command is used. A FILE is a document of layouts, the state of one window, or a settings file that holds such states; &quot;-&quot; is standard input.</source>
         <translation>&quot;panorel help BEFEHL&quot; erklärt den Aufruf eines Befehls. Eine FILE ist ein Fensterlayout-Dokument, der Zustand eines Fensters oder eine Einstellungsdatei, die solche Zustände enthält; &quot;-&quot; ist die Standardeingabe.</translation>
     </message>
+    <message>
+        <source>Starts a Qt 5 program with a menu for the layouts of its windows.</source>
+        <translation>Startet ein Qt-5-Programm mit einem Menü für die Layouts seiner Fenster.</translation>
+    </message>
+    <message>
+        <source>Lets the desktop start a program by &quot;panorel run&quot;.</source>
+        <translation>Lässt die Arbeitsfläche ein Programm mit &quot;panorel run&quot; starten.</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Tool::Console</name>
@@ -694,6 +757,33 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Tool::LauncherCommand</name>
+    <message>
+        <source>there is no such launcher</source>
+        <translation>diesen Starter gibt es nicht</translation>
+    </message>
+    <message>
+        <source>starts no program</source>
+        <translation>startet kein Programm</translation>
+    </message>
+    <message>
+        <source>starts a program that has its own Qt, which does not load plugins</source>
+        <translation>startet ein Programm mit eigenem Qt, das keine Module lädt</translation>
+    </message>
+    <message>
+        <source>is a launcher of your own and stays as it is</source>
+        <translation>ist ein selbst angelegter Starter und bleibt unverändert</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Lässt Werkzeugleisten beim Wechsel eines Fensterlayouts unverändert.</translation>
+    </message>
+    <message>
+        <source>Takes the launcher away again.</source>
+        <translation>Entfernt den Starter wieder.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool::RenderCommand</name>
     <message>
         <source>Window layout</source>
@@ -734,6 +824,33 @@
     <message>
         <source>holds no state of a window</source>
         <translation>enthält keinen Zustand eines Fensters</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Tool::RunCommand</name>
+    <message>
+        <source>it cannot be started</source>
+        <translation>kann nicht gestartet werden</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Lässt Werkzeugleisten beim Wechsel eines Fensterlayouts unverändert.</translation>
+    </message>
+    <message>
+        <source>Shows which programs have layouts, and starts none.</source>
+        <translation>Zeigt, welche Programme Fensterlayouts haben, und startet keines.</translation>
+    </message>
+    <message>
+        <source>--list takes no program</source>
+        <translation>zu --list gehört kein Programm</translation>
+    </message>
+    <message>
+        <source>a program is missing</source>
+        <translation>ein Programm fehlt</translation>
+    </message>
+    <message>
+        <source>the plugin is not installed (Debian: panorel-plugin)</source>
+        <translation>das Modul ist nicht installiert (Debian: panorel-plugin)</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Cycle</name>
+    <message>
+        <source>&amp;Next Layout</source>
+        <translation>&amp;Επόμενη διάταξη</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Layout</source>
+        <translation>&amp;Προηγούμενη διάταξη</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -29,6 +40,13 @@
     <message>
         <source>Adds the layouts of a file, in place of those of the same name</source>
         <translation>Προσθέτει τις διατάξεις ενός αρχείου, στη θέση όσων έχουν το ίδιο όνομα</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::GroupMenu</name>
+    <message>
+        <source>&amp;Group</source>
+        <translation>&amp;Ομάδα</translation>
     </message>
 </context>
 <context>
@@ -67,6 +85,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Lock</name>
+    <message>
+        <source>Loc&amp;k Layout</source>
+        <translation>&amp;Κλείδωμα διάταξης</translation>
+    </message>
+    <message>
+        <source>Nothing can be moved, floated or closed by accident</source>
+        <translation>Τίποτα δεν μπορεί να μετακινηθεί, να αποσπαστεί ή να κλείσει κατά λάθος</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameField</name>
     <message>
         <source>New name, then Return</source>
@@ -79,6 +108,21 @@
     <message>
         <source>A layout needs a name: type one, then press Return.</source>
         <translation>Μια διάταξη χρειάζεται όνομα: πληκτρολογήστε ένα και μετά πατήστε Enter.</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::Slots</name>
+    <message>
+        <source>Use S&amp;hortcuts</source>
+        <translation>&amp;Χρήση συντομεύσεων</translation>
+    </message>
+    <message>
+        <source>%1 to %2 go to the layouts that were given these keys</source>
+        <translation>%1 έως %2 ενεργοποιούν τις διατάξεις στις οποίες έχουν ανατεθεί αυτά τα πλήκτρα</translation>
+    </message>
+    <message>
+        <source>Empty Slot %1</source>
+        <translation>Κενή θέση %1</translation>
     </message>
 </context>
 <context>
@@ -367,6 +411,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Plugin::ButtonBar</name>
+    <message>
+        <source>Show Button in a Tool Bar</source>
+        <translation>Εμφάνιση του κουμπιού σε γραμμή εργαλείων</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>Διατάξεις</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool</name>
     <message>
         <source>there is no command &quot;%1&quot;</source>
@@ -532,6 +587,14 @@
         <source>&quot;panorel help COMMAND&quot; tells how a command is used. A FILE is a document of layouts, the state of one window, or a settings file that holds such states; &quot;-&quot; is standard input.</source>
         <translation>Το &quot;panorel help ΕΝΤΟΛΗ&quot; δείχνει πώς χρησιμοποιείται μια εντολή. Το FILE είναι έγγραφο διατάξεων, η κατάσταση ενός παραθύρου ή αρχείο ρυθμίσεων που περιέχει τέτοιες καταστάσεις· το &quot;-&quot; είναι η τυπική είσοδος.</translation>
     </message>
+    <message>
+        <source>Starts a Qt 5 program with a menu for the layouts of its windows.</source>
+        <translation>Εκκινεί ένα πρόγραμμα Qt 5 με μενού για τις διατάξεις των παραθύρων του.</translation>
+    </message>
+    <message>
+        <source>Lets the desktop start a program by &quot;panorel run&quot;.</source>
+        <translation>Κάνει την επιφάνεια εργασίας να εκκινεί ένα πρόγραμμα με &quot;panorel run&quot;.</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Tool::Console</name>
@@ -694,6 +757,33 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Tool::LauncherCommand</name>
+    <message>
+        <source>there is no such launcher</source>
+        <translation>δεν υπάρχει τέτοιος εκκινητής</translation>
+    </message>
+    <message>
+        <source>starts no program</source>
+        <translation>δεν εκκινεί κανένα πρόγραμμα</translation>
+    </message>
+    <message>
+        <source>starts a program that has its own Qt, which does not load plugins</source>
+        <translation>εκκινεί ένα πρόγραμμα με δικό του Qt, το οποίο δεν φορτώνει πρόσθετα</translation>
+    </message>
+    <message>
+        <source>is a launcher of your own and stays as it is</source>
+        <translation>είναι δικός σας εκκινητής και μένει ως έχει</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Αφήνει τις γραμμές εργαλείων ως έχουν κατά την αλλαγή διάταξης.</translation>
+    </message>
+    <message>
+        <source>Takes the launcher away again.</source>
+        <translation>Αφαιρεί ξανά τον εκκινητή.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool::RenderCommand</name>
     <message>
         <source>Window layout</source>
@@ -734,6 +824,33 @@
     <message>
         <source>holds no state of a window</source>
         <translation>δεν περιέχει κατάσταση παραθύρου</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Tool::RunCommand</name>
+    <message>
+        <source>it cannot be started</source>
+        <translation>δεν είναι δυνατή η εκκίνησή του</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Αφήνει τις γραμμές εργαλείων ως έχουν κατά την αλλαγή διάταξης.</translation>
+    </message>
+    <message>
+        <source>Shows which programs have layouts, and starts none.</source>
+        <translation>Δείχνει ποια προγράμματα έχουν διατάξεις και δεν εκκινεί κανένα.</translation>
+    </message>
+    <message>
+        <source>--list takes no program</source>
+        <translation>το --list δεν δέχεται πρόγραμμα</translation>
+    </message>
+    <message>
+        <source>a program is missing</source>
+        <translation>λείπει ένα πρόγραμμα</translation>
+    </message>
+    <message>
+        <source>the plugin is not installed (Debian: panorel-plugin)</source>
+        <translation>το πρόσθετο δεν είναι εγκατεστημένο (Debian: panorel-plugin)</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Cycle</name>
+    <message>
+        <source>&amp;Next Layout</source>
+        <translation>&amp;Disposición siguiente</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Layout</source>
+        <translation>Disposición &amp;anterior</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -29,6 +40,13 @@
     <message>
         <source>Adds the layouts of a file, in place of those of the same name</source>
         <translation>Añade las disposiciones de un archivo en lugar de las del mismo nombre</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::GroupMenu</name>
+    <message>
+        <source>&amp;Group</source>
+        <translation>&amp;Grupo</translation>
     </message>
 </context>
 <context>
@@ -67,6 +85,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Lock</name>
+    <message>
+        <source>Loc&amp;k Layout</source>
+        <translation>&amp;Bloquear la disposición</translation>
+    </message>
+    <message>
+        <source>Nothing can be moved, floated or closed by accident</source>
+        <translation>No se puede mover, separar ni cerrar nada por accidente</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameField</name>
     <message>
         <source>New name, then Return</source>
@@ -79,6 +108,21 @@
     <message>
         <source>A layout needs a name: type one, then press Return.</source>
         <translation>Una disposición necesita un nombre: escríbalo y pulse Intro.</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::Slots</name>
+    <message>
+        <source>Use S&amp;hortcuts</source>
+        <translation>&amp;Usar atajos de teclado</translation>
+    </message>
+    <message>
+        <source>%1 to %2 go to the layouts that were given these keys</source>
+        <translation>%1 a %2 activan las disposiciones que tienen asignadas estas teclas</translation>
+    </message>
+    <message>
+        <source>Empty Slot %1</source>
+        <translation>Posición %1 vacía</translation>
     </message>
 </context>
 <context>
@@ -367,6 +411,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Plugin::ButtonBar</name>
+    <message>
+        <source>Show Button in a Tool Bar</source>
+        <translation>Mostrar el botón en una barra de herramientas</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>Disposiciones</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool</name>
     <message>
         <source>there is no command &quot;%1&quot;</source>
@@ -532,6 +587,14 @@
         <source>&quot;panorel help COMMAND&quot; tells how a command is used. A FILE is a document of layouts, the state of one window, or a settings file that holds such states; &quot;-&quot; is standard input.</source>
         <translation>&quot;panorel help ORDEN&quot; explica cómo se usa una orden. Un FILE es un documento de disposiciones, el estado de una ventana o un archivo de configuración que contiene tales estados; &quot;-&quot; es la entrada estándar.</translation>
     </message>
+    <message>
+        <source>Starts a Qt 5 program with a menu for the layouts of its windows.</source>
+        <translation>Inicia un programa de Qt 5 con un menú para las disposiciones de sus ventanas.</translation>
+    </message>
+    <message>
+        <source>Lets the desktop start a program by &quot;panorel run&quot;.</source>
+        <translation>Hace que el escritorio inicie un programa con &quot;panorel run&quot;.</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Tool::Console</name>
@@ -694,6 +757,33 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Tool::LauncherCommand</name>
+    <message>
+        <source>there is no such launcher</source>
+        <translation>no existe ese lanzador</translation>
+    </message>
+    <message>
+        <source>starts no program</source>
+        <translation>no inicia ningún programa</translation>
+    </message>
+    <message>
+        <source>starts a program that has its own Qt, which does not load plugins</source>
+        <translation>inicia un programa que tiene su propio Qt, el cual no carga complementos</translation>
+    </message>
+    <message>
+        <source>is a launcher of your own and stays as it is</source>
+        <translation>es un lanzador creado por usted y se queda como está</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Deja las barras de herramientas como están al cambiar de disposición.</translation>
+    </message>
+    <message>
+        <source>Takes the launcher away again.</source>
+        <translation>Vuelve a quitar el lanzador.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool::RenderCommand</name>
     <message>
         <source>Window layout</source>
@@ -734,6 +824,33 @@
     <message>
         <source>holds no state of a window</source>
         <translation>no contiene el estado de ninguna ventana</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Tool::RunCommand</name>
+    <message>
+        <source>it cannot be started</source>
+        <translation>no se puede iniciar</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Deja las barras de herramientas como están al cambiar de disposición.</translation>
+    </message>
+    <message>
+        <source>Shows which programs have layouts, and starts none.</source>
+        <translation>Muestra qué programas tienen disposiciones, sin iniciar ninguno.</translation>
+    </message>
+    <message>
+        <source>--list takes no program</source>
+        <translation>--list no admite ningún programa</translation>
+    </message>
+    <message>
+        <source>a program is missing</source>
+        <translation>falta un programa</translation>
+    </message>
+    <message>
+        <source>the plugin is not installed (Debian: panorel-plugin)</source>
+        <translation>el complemento no está instalado (Debian: panorel-plugin)</translation>
     </message>
 </context>
 <context>

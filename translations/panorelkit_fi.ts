@@ -17,6 +17,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Cycle</name>
+    <message>
+        <source>&amp;Next Layout</source>
+        <translation>&amp;Seuraava asettelu</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Layout</source>
+        <translation>&amp;Edellinen asettelu</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -29,6 +40,13 @@
     <message>
         <source>Adds the layouts of a file, in place of those of the same name</source>
         <translation>Lisää tiedoston asettelut ja korvaa samannimiset</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::GroupMenu</name>
+    <message>
+        <source>&amp;Group</source>
+        <translation>&amp;Ryhmä</translation>
     </message>
 </context>
 <context>
@@ -67,6 +85,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Lock</name>
+    <message>
+        <source>Loc&amp;k Layout</source>
+        <translation>&amp;Lukitse asettelu</translation>
+    </message>
+    <message>
+        <source>Nothing can be moved, floated or closed by accident</source>
+        <translation>Mitään ei voi siirtää, irrottaa tai sulkea vahingossa</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameField</name>
     <message>
         <source>New name, then Return</source>
@@ -79,6 +108,21 @@
     <message>
         <source>A layout needs a name: type one, then press Return.</source>
         <translation>Asettelu tarvitsee nimen: kirjoita nimi ja paina Enter.</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::Slots</name>
+    <message>
+        <source>Use S&amp;hortcuts</source>
+        <translation>&amp;Käytä pikanäppäimiä</translation>
+    </message>
+    <message>
+        <source>%1 to %2 go to the layouts that were given these keys</source>
+        <translation>%1–%2 vaihtavat asetteluihin, joille nämä näppäimet on annettu</translation>
+    </message>
+    <message>
+        <source>Empty Slot %1</source>
+        <translation>Tyhjä paikka %1</translation>
     </message>
 </context>
 <context>
@@ -367,6 +411,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Plugin::ButtonBar</name>
+    <message>
+        <source>Show Button in a Tool Bar</source>
+        <translation>Näytä painike työkalurivillä</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>Asettelut</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool</name>
     <message>
         <source>there is no command &quot;%1&quot;</source>
@@ -532,6 +587,14 @@
         <source>&quot;panorel help COMMAND&quot; tells how a command is used. A FILE is a document of layouts, the state of one window, or a settings file that holds such states; &quot;-&quot; is standard input.</source>
         <translation>&quot;panorel help KOMENTO&quot; kertoo, miten komentoa käytetään. FILE on asetteluasiakirja, yhden ikkunan tila tai asetustiedosto, jossa on tällaisia tiloja; &quot;-&quot; on vakiosyöte.</translation>
     </message>
+    <message>
+        <source>Starts a Qt 5 program with a menu for the layouts of its windows.</source>
+        <translation>Käynnistää Qt 5 -ohjelman, jossa on valikko sen ikkunoiden asetteluille.</translation>
+    </message>
+    <message>
+        <source>Lets the desktop start a program by &quot;panorel run&quot;.</source>
+        <translation>Antaa työpöydän käynnistää ohjelman komennolla &quot;panorel run&quot;.</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Tool::Console</name>
@@ -694,6 +757,33 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Tool::LauncherCommand</name>
+    <message>
+        <source>there is no such launcher</source>
+        <translation>tällaista käynnistintä ei ole</translation>
+    </message>
+    <message>
+        <source>starts no program</source>
+        <translation>ei käynnistä mitään ohjelmaa</translation>
+    </message>
+    <message>
+        <source>starts a program that has its own Qt, which does not load plugins</source>
+        <translation>käynnistää ohjelman, jolla on oma Qt, joka ei lataa liitännäisiä</translation>
+    </message>
+    <message>
+        <source>is a launcher of your own and stays as it is</source>
+        <translation>on itse tekemäsi käynnistin ja jää ennalleen</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Jättää työkalurivit ennalleen, kun asettelua vaihdetaan.</translation>
+    </message>
+    <message>
+        <source>Takes the launcher away again.</source>
+        <translation>Poistaa käynnistimen jälleen.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool::RenderCommand</name>
     <message>
         <source>Window layout</source>
@@ -734,6 +824,33 @@
     <message>
         <source>holds no state of a window</source>
         <translation>ei sisällä ikkunan tilaa</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Tool::RunCommand</name>
+    <message>
+        <source>it cannot be started</source>
+        <translation>ei voi käynnistää</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Jättää työkalurivit ennalleen, kun asettelua vaihdetaan.</translation>
+    </message>
+    <message>
+        <source>Shows which programs have layouts, and starts none.</source>
+        <translation>Näyttää, millä ohjelmilla on asetteluja, käynnistämättä yhtäkään.</translation>
+    </message>
+    <message>
+        <source>--list takes no program</source>
+        <translation>--list ei ota ohjelmaa</translation>
+    </message>
+    <message>
+        <source>a program is missing</source>
+        <translation>ohjelma puuttuu</translation>
+    </message>
+    <message>
+        <source>the plugin is not installed (Debian: panorel-plugin)</source>
+        <translation>liitännäistä ei ole asennettu (Debian: panorel-plugin)</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Cycle</name>
+    <message>
+        <source>&amp;Next Layout</source>
+        <translation>&amp;Disposition suivante</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Layout</source>
+        <translation>Disposition &amp;précédente</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -29,6 +40,13 @@
     <message>
         <source>Adds the layouts of a file, in place of those of the same name</source>
         <translation>Ajoute les dispositions d&apos;un fichier, à la place de celles du même nom</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::GroupMenu</name>
+    <message>
+        <source>&amp;Group</source>
+        <translation>&amp;Groupe</translation>
     </message>
 </context>
 <context>
@@ -51,7 +69,7 @@
     </message>
     <message>
         <source>The layouts could not be saved in %1: %2</source>
-        <translation>Les dispositions n&apos;ont pas pu être enregistrées dans %1 : %2</translation>
+        <translation>Les dispositions n&apos;ont pas pu être enregistrées dans %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>The file with your layouts, %1, cannot be read. %2</source>
@@ -67,6 +85,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Lock</name>
+    <message>
+        <source>Loc&amp;k Layout</source>
+        <translation>&amp;Verrouiller la disposition</translation>
+    </message>
+    <message>
+        <source>Nothing can be moved, floated or closed by accident</source>
+        <translation>Rien ne peut être déplacé, détaché ou fermé par accident</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameField</name>
     <message>
         <source>New name, then Return</source>
@@ -78,7 +107,22 @@
     </message>
     <message>
         <source>A layout needs a name: type one, then press Return.</source>
-        <translation>Une disposition doit avoir un nom : saisissez-le, puis appuyez sur Entrée.</translation>
+        <translation>Une disposition doit avoir un nom&#xa0;: saisissez-le, puis appuyez sur Entrée.</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::Slots</name>
+    <message>
+        <source>Use S&amp;hortcuts</source>
+        <translation>&amp;Utiliser les raccourcis</translation>
+    </message>
+    <message>
+        <source>%1 to %2 go to the layouts that were given these keys</source>
+        <translation>%1 à %2 activent les dispositions auxquelles ces touches sont attribuées</translation>
+    </message>
+    <message>
+        <source>Empty Slot %1</source>
+        <translation>Emplacement %1 vide</translation>
     </message>
 </context>
 <context>
@@ -89,7 +133,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; cannot be written: %2</source>
-        <translation>Impossible d&apos;écrire &quot;%1&quot; : %2</translation>
+        <translation>Impossible d&apos;écrire &quot;%1&quot;&#xa0;: %2</translation>
     </message>
     <message>
         <source>Exported the layouts to &quot;%1&quot;.</source>
@@ -101,7 +145,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; was not imported: %2</source>
-        <translation>&quot;%1&quot; n&apos;a pas été importé : %2</translation>
+        <translation>&quot;%1&quot; n&apos;a pas été importé&#xa0;: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has no layouts for this program.</source>
@@ -117,7 +161,7 @@
     </message>
     <message>
         <source>Imported the layouts of &quot;%1&quot;; damaged parts were left out.</source>
-        <translation>Les dispositions de &quot;%1&quot; ont été importées ; les parties endommagées ont été ignorées.</translation>
+        <translation>Les dispositions de &quot;%1&quot; ont été importées&#xa0;; les parties endommagées ont été ignorées.</translation>
     </message>
 </context>
 <context>
@@ -196,7 +240,7 @@
     </message>
     <message>
         <source>%1 moved from %2 to %3</source>
-        <translation>%1 a été déplacé : %2 → %3</translation>
+        <translation>%1 a été déplacé&#xa0;: %2 → %3</translation>
     </message>
     <message>
         <source>%1 is open</source>
@@ -323,11 +367,11 @@
     </message>
     <message>
         <source>The document is damaged: %1</source>
-        <translation>Le document est endommagé : %1</translation>
+        <translation>Le document est endommagé&#xa0;: %1</translation>
     </message>
     <message>
         <source>The document is not one of layouts: %1</source>
-        <translation>Le document n&apos;est pas un document de dispositions : %1</translation>
+        <translation>Le document n&apos;est pas un document de dispositions&#xa0;: %1</translation>
     </message>
     <message>
         <source>The document has the unknown version &quot;%1&quot;</source>
@@ -359,11 +403,22 @@
     </message>
     <message>
         <source>Dock widgets float as tabs; merging this state loses its tool bars</source>
-        <translation>Des panneaux ancrables flottent en onglets ; la fusion de cet état perd ses barres d&apos;outils</translation>
+        <translation>Des panneaux ancrables flottent en onglets&#xa0;; la fusion de cet état perd ses barres d&apos;outils</translation>
     </message>
     <message>
         <source>Tool bars are on a side that does not exist</source>
         <translation>Des barres d&apos;outils sont sur un côté qui n&apos;existe pas</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Plugin::ButtonBar</name>
+    <message>
+        <source>Show Button in a Tool Bar</source>
+        <translation>Afficher le bouton dans une barre d&apos;outils</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>Dispositions</translation>
     </message>
 </context>
 <context>
@@ -374,7 +429,7 @@
     </message>
     <message>
         <source>there is no command &quot;%1&quot;; see &quot;panorel help&quot;</source>
-        <translation>il n&apos;y a pas de commande &quot;%1&quot; ; voir &quot;panorel help&quot;</translation>
+        <translation>il n&apos;y a pas de commande &quot;%1&quot;&#xa0;; voir &quot;panorel help&quot;</translation>
     </message>
 </context>
 <context>
@@ -404,15 +459,15 @@
     <name>Panorel::Tool::Choice</name>
     <message>
         <source>there is no group &quot;%1&quot;; there are: %2</source>
-        <translation>il n&apos;y a pas de groupe &quot;%1&quot; ; existants : %2</translation>
+        <translation>il n&apos;y a pas de groupe &quot;%1&quot;&#xa0;; existants&#xa0;: %2</translation>
     </message>
     <message>
         <source>there is no layout &quot;%1&quot;; there are: %2</source>
-        <translation>il n&apos;y a pas de disposition &quot;%1&quot; ; existantes : %2</translation>
+        <translation>il n&apos;y a pas de disposition &quot;%1&quot;&#xa0;; existantes&#xa0;: %2</translation>
     </message>
     <message>
         <source>there is no window &quot;%1&quot;; there are: %2</source>
-        <translation>il n&apos;y a pas de fenêtre &quot;%1&quot; ; existantes : %2</translation>
+        <translation>il n&apos;y a pas de fenêtre &quot;%1&quot;&#xa0;; existantes&#xa0;: %2</translation>
     </message>
     <message>
         <source>--view and --current exclude each other</source>
@@ -440,7 +495,7 @@
     </message>
     <message>
         <source>Only this window; in a settings file, the state at SECTION/KEY.</source>
-        <translation>Seulement cette fenêtre ; dans un fichier de configuration, l&apos;état sous SECTION/CLÉ.</translation>
+        <translation>Seulement cette fenêtre&#xa0;; dans un fichier de configuration, l&apos;état sous SECTION/CLÉ.</translation>
     </message>
     <message>
         <source>ID</source>
@@ -483,7 +538,7 @@
     </message>
     <message>
         <source>%1; see &quot;panorel help %2&quot;</source>
-        <translation>%1 ; voir &quot;panorel help %2&quot;</translation>
+        <translation>%1&#xa0;; voir &quot;panorel help %2&quot;</translation>
     </message>
 </context>
 <context>
@@ -526,11 +581,19 @@
     </message>
     <message>
         <source>Usage: panorel COMMAND ...</source>
-        <translation>Utilisation : panorel COMMANDE ...</translation>
+        <translation>Utilisation&#xa0;: panorel COMMANDE ...</translation>
     </message>
     <message>
         <source>&quot;panorel help COMMAND&quot; tells how a command is used. A FILE is a document of layouts, the state of one window, or a settings file that holds such states; &quot;-&quot; is standard input.</source>
-        <translation>&quot;panorel help COMMANDE&quot; indique comment utiliser une commande. Un FILE est un document de dispositions, l&apos;état d&apos;une fenêtre ou un fichier de configuration qui contient de tels états ; &quot;-&quot; est l&apos;entrée standard.</translation>
+        <translation>&quot;panorel help COMMANDE&quot; indique comment utiliser une commande. Un FILE est un document de dispositions, l&apos;état d&apos;une fenêtre ou un fichier de configuration qui contient de tels états&#xa0;; &quot;-&quot; est l&apos;entrée standard.</translation>
+    </message>
+    <message>
+        <source>Starts a Qt 5 program with a menu for the layouts of its windows.</source>
+        <translation>Démarre un programme Qt 5 avec un menu pour les dispositions de ses fenêtres.</translation>
+    </message>
+    <message>
+        <source>Lets the desktop start a program by &quot;panorel run&quot;.</source>
+        <translation>Fait démarrer un programme par le bureau avec &quot;panorel run&quot;.</translation>
     </message>
 </context>
 <context>
@@ -544,11 +607,11 @@
     <name>Panorel::Tool::DiffCommand</name>
     <message>
         <source>has several layouts; choose one by --group and --view</source>
-        <translation>a plusieurs dispositions ; choisissez-en une avec --group et --view</translation>
+        <translation>a plusieurs dispositions&#xa0;; choisissez-en une avec --group et --view</translation>
     </message>
     <message>
         <source>Only in %1: %2</source>
-        <translation>Seulement dans %1 : %2</translation>
+        <translation>Seulement dans %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>No difference</source>
@@ -575,7 +638,7 @@
     <name>Panorel::Tool::EditCommands</name>
     <message>
         <source>The file to write; &quot;-&quot; is standard output.</source>
-        <translation>Le fichier à écrire ; &quot;-&quot; est la sortie standard.</translation>
+        <translation>Le fichier à écrire&#xa0;; &quot;-&quot; est la sortie standard.</translation>
     </message>
     <message>
         <source>OUT</source>
@@ -595,7 +658,7 @@
     </message>
     <message>
         <source>the option %1 is missing; there are: %2</source>
-        <translation>l&apos;option %1 manque ; existants : %2</translation>
+        <translation>l&apos;option %1 manque&#xa0;; existants&#xa0;: %2</translation>
     </message>
     <message>
         <source>Replaces layouts whose names are there already.</source>
@@ -666,7 +729,7 @@
     </message>
     <message>
         <source>Reads files of up to this size in MiB, %1 if it is not given; 0 lifts the limit.</source>
-        <translation>Lit des fichiers jusqu&apos;à cette taille en MiB, %1 par défaut ; 0 supprime la limite.</translation>
+        <translation>Lit des fichiers jusqu&apos;à cette taille en MiB, %1 par défaut&#xa0;; 0 supprime la limite.</translation>
     </message>
     <message>
         <source>MIB</source>
@@ -694,6 +757,33 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Tool::LauncherCommand</name>
+    <message>
+        <source>there is no such launcher</source>
+        <translation>ce lanceur n&apos;existe pas</translation>
+    </message>
+    <message>
+        <source>starts no program</source>
+        <translation>ne démarre aucun programme</translation>
+    </message>
+    <message>
+        <source>starts a program that has its own Qt, which does not load plugins</source>
+        <translation>démarre un programme avec son propre Qt, qui ne charge pas de modules</translation>
+    </message>
+    <message>
+        <source>is a launcher of your own and stays as it is</source>
+        <translation>est un lanceur créé par vous et reste tel quel</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Laisse les barres d&apos;outils telles quelles lors d&apos;un changement de disposition.</translation>
+    </message>
+    <message>
+        <source>Takes the launcher away again.</source>
+        <translation>Retire de nouveau le lanceur.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool::RenderCommand</name>
     <message>
         <source>Window layout</source>
@@ -705,7 +795,7 @@
     </message>
     <message>
         <source>the picture is too large; choose one window by --window</source>
-        <translation>l&apos;image est trop grande ; choisissez une fenêtre avec --window</translation>
+        <translation>l&apos;image est trop grande&#xa0;; choisissez une fenêtre avec --window</translation>
     </message>
     <message>
         <source>the picture is too large</source>
@@ -713,7 +803,7 @@
     </message>
     <message>
         <source>The picture to write: SVG if the name ends in &quot;.svg&quot;, else PNG.</source>
-        <translation>L&apos;image à écrire : SVG si le nom se termine par &quot;.svg&quot;, sinon PNG.</translation>
+        <translation>L&apos;image à écrire&#xa0;: SVG si le nom se termine par &quot;.svg&quot;, sinon PNG.</translation>
     </message>
     <message>
         <source>OUT</source>
@@ -721,7 +811,7 @@
     </message>
     <message>
         <source>Size of each window in pixels; its own, at most %1 wide, if it is not given.</source>
-        <translation>Taille de chaque fenêtre en pixels ; par défaut la sienne, d&apos;au plus %1 de large.</translation>
+        <translation>Taille de chaque fenêtre en pixels&#xa0;; par défaut la sienne, d&apos;au plus %1 de large.</translation>
     </message>
     <message>
         <source>WxH</source>
@@ -737,6 +827,33 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Tool::RunCommand</name>
+    <message>
+        <source>it cannot be started</source>
+        <translation>impossible à démarrer</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Laisse les barres d&apos;outils telles quelles lors d&apos;un changement de disposition.</translation>
+    </message>
+    <message>
+        <source>Shows which programs have layouts, and starts none.</source>
+        <translation>Indique quels programmes ont des dispositions, sans en démarrer aucun.</translation>
+    </message>
+    <message>
+        <source>--list takes no program</source>
+        <translation>--list ne prend pas de programme</translation>
+    </message>
+    <message>
+        <source>a program is missing</source>
+        <translation>il manque un programme</translation>
+    </message>
+    <message>
+        <source>the plugin is not installed (Debian: panorel-plugin)</source>
+        <translation>le module n&apos;est pas installé (Debian: panorel-plugin)</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool::ShowCommand</name>
     <message>
         <source>Window &quot;%1&quot;</source>
@@ -744,7 +861,7 @@
     </message>
     <message>
         <source>User data: %1</source>
-        <translation>Données utilisateur : %1</translation>
+        <translation>Données utilisateur&#xa0;: %1</translation>
     </message>
     <message>
         <source>Group &quot;%1&quot;</source>
@@ -806,35 +923,35 @@
     </message>
     <message>
         <source>Tabs:</source>
-        <translation>Onglets :</translation>
+        <translation>Onglets&#xa0;:</translation>
     </message>
     <message>
         <source>Left:</source>
-        <translation>Gauche :</translation>
+        <translation>Gauche&#xa0;:</translation>
     </message>
     <message>
         <source>Right:</source>
-        <translation>Droite :</translation>
+        <translation>Droite&#xa0;:</translation>
     </message>
     <message>
         <source>Top:</source>
-        <translation>Haut :</translation>
+        <translation>Haut&#xa0;:</translation>
     </message>
     <message>
         <source>Bottom:</source>
-        <translation>Bas :</translation>
+        <translation>Bas&#xa0;:</translation>
     </message>
     <message>
         <source>On a side that does not exist:</source>
-        <translation>Sur un côté qui n&apos;existe pas :</translation>
+        <translation>Sur un côté qui n&apos;existe pas&#xa0;:</translation>
     </message>
     <message>
         <source>Floating:</source>
-        <translation>Flottants :</translation>
+        <translation>Flottants&#xa0;:</translation>
     </message>
     <message>
         <source>Closed:</source>
-        <translation>Fermés :</translation>
+        <translation>Fermés&#xa0;:</translation>
     </message>
     <message>
         <source>(floating)</source>
@@ -846,15 +963,15 @@
     </message>
     <message>
         <source>Tool bars, %1, line %2:</source>
-        <translation>Barres d&apos;outils, %1, ligne %2 :</translation>
+        <translation>Barres d&apos;outils, %1, ligne %2&#xa0;:</translation>
     </message>
     <message>
         <source>Not the state of a window, or damaged (size: %1)</source>
-        <translation>Pas l&apos;état d&apos;une fenêtre, ou endommagé (taille : %1)</translation>
+        <translation>Pas l&apos;état d&apos;une fenêtre, ou endommagé (taille&#xa0;: %1)</translation>
     </message>
     <message>
         <source>Central area: %1</source>
-        <translation>Zone centrale : %1</translation>
+        <translation>Zone centrale&#xa0;: %1</translation>
     </message>
     <message>
         <source>Neither dock widgets nor tool bars</source>
@@ -865,11 +982,11 @@
     <name>Panorel::Tool::TidyCommand</name>
     <message>
         <source>is not sound; see &quot;panorel check&quot;</source>
-        <translation>n&apos;est pas en bon état ; voir &quot;panorel check&quot;</translation>
+        <translation>n&apos;est pas en bon état&#xa0;; voir &quot;panorel check&quot;</translation>
     </message>
     <message>
         <source>left out %1: %2</source>
-        <translation>ignoré : %1 : %2</translation>
+        <translation>ignoré&#xa0;: %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>a state is not written over its settings file</source>
@@ -905,7 +1022,7 @@
     </message>
     <message>
         <source>has several states; choose one by --window</source>
-        <translation>a plusieurs états ; choisissez-en un avec --window</translation>
+        <translation>a plusieurs états&#xa0;; choisissez-en un avec --window</translation>
     </message>
 </context>
 </TS>

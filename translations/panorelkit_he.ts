@@ -17,6 +17,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Cycle</name>
+    <message>
+        <source>&amp;Next Layout</source>
+        <translation>&amp;הפריסה הבאה</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Layout</source>
+        <translation>ה&amp;פריסה הקודמת</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -29,6 +40,13 @@
     <message>
         <source>Adds the layouts of a file, in place of those of the same name</source>
         <translation>הוספת הפריסות שבקובץ, במקום פריסות בעלות אותו שם</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::GroupMenu</name>
+    <message>
+        <source>&amp;Group</source>
+        <translation>&amp;קבוצה</translation>
     </message>
 </context>
 <context>
@@ -67,6 +85,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Lock</name>
+    <message>
+        <source>Loc&amp;k Layout</source>
+        <translation>&amp;נעילת הפריסה</translation>
+    </message>
+    <message>
+        <source>Nothing can be moved, floated or closed by accident</source>
+        <translation>לא ניתן להזיז, לנתק או לסגור דבר בטעות</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameField</name>
     <message>
         <source>New name, then Return</source>
@@ -79,6 +108,21 @@
     <message>
         <source>A layout needs a name: type one, then press Return.</source>
         <translation>לפריסה דרוש שם: יש להקליד שם ואז להקיש Enter.</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::Slots</name>
+    <message>
+        <source>Use S&amp;hortcuts</source>
+        <translation>&amp;שימוש בקיצורי מקשים</translation>
+    </message>
+    <message>
+        <source>%1 to %2 go to the layouts that were given these keys</source>
+        <translation>%1 עד %2 עוברים לפריסות שהמקשים האלה הוקצו להן</translation>
+    </message>
+    <message>
+        <source>Empty Slot %1</source>
+        <translation>משבצת %1 ריקה</translation>
     </message>
 </context>
 <context>
@@ -367,6 +411,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Plugin::ButtonBar</name>
+    <message>
+        <source>Show Button in a Tool Bar</source>
+        <translation>הצגת הכפתור בסרגל כלים</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>פריסות</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool</name>
     <message>
         <source>there is no command &quot;%1&quot;</source>
@@ -532,6 +587,14 @@
         <source>&quot;panorel help COMMAND&quot; tells how a command is used. A FILE is a document of layouts, the state of one window, or a settings file that holds such states; &quot;-&quot; is standard input.</source>
         <translation>&quot;panorel help COMMAND&quot; מסביר כיצד להשתמש בפקודה. FILE הוא מסמך פריסות, מצב של חלון יחיד או קובץ הגדרות שמכיל מצבים כאלה; &quot;-&quot; הוא הקלט הסטנדרטי.</translation>
     </message>
+    <message>
+        <source>Starts a Qt 5 program with a menu for the layouts of its windows.</source>
+        <translation>מפעיל תוכנית Qt 5 עם תפריט לפריסות של חלונותיה.</translation>
+    </message>
+    <message>
+        <source>Lets the desktop start a program by &quot;panorel run&quot;.</source>
+        <translation>גורם לשולחן העבודה להפעיל תוכנית באמצעות &quot;panorel run&quot;.</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Tool::Console</name>
@@ -694,6 +757,33 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Tool::LauncherCommand</name>
+    <message>
+        <source>there is no such launcher</source>
+        <translation>אין משגר כזה</translation>
+    </message>
+    <message>
+        <source>starts no program</source>
+        <translation>אינו מפעיל תוכנית</translation>
+    </message>
+    <message>
+        <source>starts a program that has its own Qt, which does not load plugins</source>
+        <translation>מפעיל תוכנית שיש לה Qt משלה, שאינו טוען תוספים</translation>
+    </message>
+    <message>
+        <source>is a launcher of your own and stays as it is</source>
+        <translation>הוא משגר שיצרת ונשאר כפי שהוא</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>משאיר את סרגלי הכלים כפי שהם בעת מעבר לפריסה אחרת.</translation>
+    </message>
+    <message>
+        <source>Takes the launcher away again.</source>
+        <translation>מסיר שוב את המשגר.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool::RenderCommand</name>
     <message>
         <source>Window layout</source>
@@ -734,6 +824,33 @@
     <message>
         <source>holds no state of a window</source>
         <translation>אין מצב של חלון</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Tool::RunCommand</name>
+    <message>
+        <source>it cannot be started</source>
+        <translation>לא ניתן להפעיל</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>משאיר את סרגלי הכלים כפי שהם בעת מעבר לפריסה אחרת.</translation>
+    </message>
+    <message>
+        <source>Shows which programs have layouts, and starts none.</source>
+        <translation>מציג לאילו תוכניות יש פריסות, ואינו מפעיל דבר.</translation>
+    </message>
+    <message>
+        <source>--list takes no program</source>
+        <translation>--list אינו מקבל תוכנית</translation>
+    </message>
+    <message>
+        <source>a program is missing</source>
+        <translation>חסרה תוכנית</translation>
+    </message>
+    <message>
+        <source>the plugin is not installed (Debian: panorel-plugin)</source>
+        <translation>התוסף אינו מותקן (Debian: panorel-plugin)</translation>
     </message>
 </context>
 <context>

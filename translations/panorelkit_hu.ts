@@ -17,6 +17,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Cycle</name>
+    <message>
+        <source>&amp;Next Layout</source>
+        <translation>&amp;Következő elrendezés</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Layout</source>
+        <translation>&amp;Előző elrendezés</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -29,6 +40,13 @@
     <message>
         <source>Adds the layouts of a file, in place of those of the same name</source>
         <translation>Hozzáadja egy fájl elrendezéseit, az azonos nevűeket lecserélve</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::GroupMenu</name>
+    <message>
+        <source>&amp;Group</source>
+        <translation>&amp;Csoport</translation>
     </message>
 </context>
 <context>
@@ -67,6 +85,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Lock</name>
+    <message>
+        <source>Loc&amp;k Layout</source>
+        <translation>Elrendezés &amp;zárolása</translation>
+    </message>
+    <message>
+        <source>Nothing can be moved, floated or closed by accident</source>
+        <translation>Semmi sem helyezhető át, választható le vagy zárható be véletlenül</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameField</name>
     <message>
         <source>New name, then Return</source>
@@ -79,6 +108,21 @@
     <message>
         <source>A layout needs a name: type one, then press Return.</source>
         <translation>Az elrendezésnek név kell: írjon be egyet, majd nyomja meg az Entert.</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::Slots</name>
+    <message>
+        <source>Use S&amp;hortcuts</source>
+        <translation>&amp;Gyorsbillentyűk használata</translation>
+    </message>
+    <message>
+        <source>%1 to %2 go to the layouts that were given these keys</source>
+        <translation>%1 - %2: váltás azokra az elrendezésekre, amelyekhez ezek a billentyűk tartoznak</translation>
+    </message>
+    <message>
+        <source>Empty Slot %1</source>
+        <translation>%1. hely üres</translation>
     </message>
 </context>
 <context>
@@ -367,6 +411,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Plugin::ButtonBar</name>
+    <message>
+        <source>Show Button in a Tool Bar</source>
+        <translation>Gomb megjelenítése eszköztáron</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>Elrendezések</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool</name>
     <message>
         <source>there is no command &quot;%1&quot;</source>
@@ -532,6 +587,14 @@
         <source>&quot;panorel help COMMAND&quot; tells how a command is used. A FILE is a document of layouts, the state of one window, or a settings file that holds such states; &quot;-&quot; is standard input.</source>
         <translation>A &quot;panorel help PARANCS&quot; elmondja, hogyan kell használni egy parancsot. A FILE elrendezéseket tartalmazó dokumentum, egy ablak állapota vagy ilyen állapotokat tartalmazó beállításfájl; a &quot;-&quot; a szabványos bemenet.</translation>
     </message>
+    <message>
+        <source>Starts a Qt 5 program with a menu for the layouts of its windows.</source>
+        <translation>Elindít egy Qt 5-programot az ablakai elrendezéseit tartalmazó menüvel.</translation>
+    </message>
+    <message>
+        <source>Lets the desktop start a program by &quot;panorel run&quot;.</source>
+        <translation>Az asztali környezet a(z) &quot;panorel run&quot; paranccsal indítson egy programot.</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Tool::Console</name>
@@ -694,6 +757,33 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Tool::LauncherCommand</name>
+    <message>
+        <source>there is no such launcher</source>
+        <translation>nincs ilyen indító</translation>
+    </message>
+    <message>
+        <source>starts no program</source>
+        <translation>nem indít programot</translation>
+    </message>
+    <message>
+        <source>starts a program that has its own Qt, which does not load plugins</source>
+        <translation>saját Qt-vel rendelkező programot indít, amely nem tölt be bővítményeket</translation>
+    </message>
+    <message>
+        <source>is a launcher of your own and stays as it is</source>
+        <translation>saját készítésű indító, változatlan marad</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Elrendezésváltáskor változatlanul hagyja az eszköztárakat.</translation>
+    </message>
+    <message>
+        <source>Takes the launcher away again.</source>
+        <translation>Ismét eltávolítja az indítót.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool::RenderCommand</name>
     <message>
         <source>Window layout</source>
@@ -734,6 +824,33 @@
     <message>
         <source>holds no state of a window</source>
         <translation>nem tartalmazza ablak állapotát</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Tool::RunCommand</name>
+    <message>
+        <source>it cannot be started</source>
+        <translation>nem indítható el</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Elrendezésváltáskor változatlanul hagyja az eszköztárakat.</translation>
+    </message>
+    <message>
+        <source>Shows which programs have layouts, and starts none.</source>
+        <translation>Megmutatja, mely programoknak van elrendezésük, és egyiket sem indítja el.</translation>
+    </message>
+    <message>
+        <source>--list takes no program</source>
+        <translation>a --list mellett nem adható meg program</translation>
+    </message>
+    <message>
+        <source>a program is missing</source>
+        <translation>hiányzik egy program</translation>
+    </message>
+    <message>
+        <source>the plugin is not installed (Debian: panorel-plugin)</source>
+        <translation>a bővítmény nincs telepítve (Debian: panorel-plugin)</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Cycle</name>
+    <message>
+        <source>&amp;Next Layout</source>
+        <translation>&amp;Layout successivo</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Layout</source>
+        <translation>Layout &amp;precedente</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -29,6 +40,13 @@
     <message>
         <source>Adds the layouts of a file, in place of those of the same name</source>
         <translation>Aggiunge i layout di un file, al posto di quelli con lo stesso nome</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::GroupMenu</name>
+    <message>
+        <source>&amp;Group</source>
+        <translation>&amp;Gruppo</translation>
     </message>
 </context>
 <context>
@@ -67,6 +85,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Lock</name>
+    <message>
+        <source>Loc&amp;k Layout</source>
+        <translation>&amp;Blocca il layout</translation>
+    </message>
+    <message>
+        <source>Nothing can be moved, floated or closed by accident</source>
+        <translation>Nulla può essere spostato, staccato o chiuso per sbaglio</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameField</name>
     <message>
         <source>New name, then Return</source>
@@ -79,6 +108,21 @@
     <message>
         <source>A layout needs a name: type one, then press Return.</source>
         <translation>Un layout deve avere un nome: digitarlo, poi premere Invio.</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::Slots</name>
+    <message>
+        <source>Use S&amp;hortcuts</source>
+        <translation>&amp;Usa scorciatoie</translation>
+    </message>
+    <message>
+        <source>%1 to %2 go to the layouts that were given these keys</source>
+        <translation>%1 - %2 attivano i layout a cui sono assegnati questi tasti</translation>
+    </message>
+    <message>
+        <source>Empty Slot %1</source>
+        <translation>Posizione %1 vuota</translation>
     </message>
 </context>
 <context>
@@ -367,6 +411,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Plugin::ButtonBar</name>
+    <message>
+        <source>Show Button in a Tool Bar</source>
+        <translation>Mostra il pulsante in una barra degli strumenti</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>Layout</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool</name>
     <message>
         <source>there is no command &quot;%1&quot;</source>
@@ -532,6 +587,14 @@
         <source>&quot;panorel help COMMAND&quot; tells how a command is used. A FILE is a document of layouts, the state of one window, or a settings file that holds such states; &quot;-&quot; is standard input.</source>
         <translation>&quot;panorel help COMANDO&quot; spiega come si usa un comando. Un FILE è un documento di layout, lo stato di una finestra o un file di impostazioni che contiene tali stati; &quot;-&quot; è lo standard input.</translation>
     </message>
+    <message>
+        <source>Starts a Qt 5 program with a menu for the layouts of its windows.</source>
+        <translation>Avvia un programma Qt 5 con un menu per i layout delle sue finestre.</translation>
+    </message>
+    <message>
+        <source>Lets the desktop start a program by &quot;panorel run&quot;.</source>
+        <translation>Fa avviare un programma dal desktop con &quot;panorel run&quot;.</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Tool::Console</name>
@@ -694,6 +757,33 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Tool::LauncherCommand</name>
+    <message>
+        <source>there is no such launcher</source>
+        <translation>non esiste questo file di avvio</translation>
+    </message>
+    <message>
+        <source>starts no program</source>
+        <translation>non avvia alcun programma</translation>
+    </message>
+    <message>
+        <source>starts a program that has its own Qt, which does not load plugins</source>
+        <translation>avvia un programma che ha un proprio Qt, il quale non carica estensioni</translation>
+    </message>
+    <message>
+        <source>is a launcher of your own and stays as it is</source>
+        <translation>è un file di avvio personale e resta com&apos;è</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Lascia le barre degli strumenti come sono quando si cambia layout.</translation>
+    </message>
+    <message>
+        <source>Takes the launcher away again.</source>
+        <translation>Rimuove di nuovo il file di avvio.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool::RenderCommand</name>
     <message>
         <source>Window layout</source>
@@ -734,6 +824,33 @@
     <message>
         <source>holds no state of a window</source>
         <translation>non contiene lo stato di alcuna finestra</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Tool::RunCommand</name>
+    <message>
+        <source>it cannot be started</source>
+        <translation>non può essere avviato</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Lascia le barre degli strumenti come sono quando si cambia layout.</translation>
+    </message>
+    <message>
+        <source>Shows which programs have layouts, and starts none.</source>
+        <translation>Mostra quali programmi hanno layout, senza avviarne alcuno.</translation>
+    </message>
+    <message>
+        <source>--list takes no program</source>
+        <translation>--list non accetta un programma</translation>
+    </message>
+    <message>
+        <source>a program is missing</source>
+        <translation>manca un programma</translation>
+    </message>
+    <message>
+        <source>the plugin is not installed (Debian: panorel-plugin)</source>
+        <translation>l&apos;estensione non è installata (Debian: panorel-plugin)</translation>
     </message>
 </context>
 <context>

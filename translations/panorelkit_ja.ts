@@ -17,6 +17,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Cycle</name>
+    <message>
+        <source>&amp;Next Layout</source>
+        <translation>次のレイアウト(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Layout</source>
+        <translation>前のレイアウト(&amp;P)</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -29,6 +40,13 @@
     <message>
         <source>Adds the layouts of a file, in place of those of the same name</source>
         <translation>ファイルのレイアウトを追加し、同名のものは置き換えます</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::GroupMenu</name>
+    <message>
+        <source>&amp;Group</source>
+        <translation>グループ(&amp;G)</translation>
     </message>
 </context>
 <context>
@@ -67,6 +85,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Lock</name>
+    <message>
+        <source>Loc&amp;k Layout</source>
+        <translation>レイアウトをロック(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Nothing can be moved, floated or closed by accident</source>
+        <translation>誤って移動、フローティング、閉じることができないようにします</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameField</name>
     <message>
         <source>New name, then Return</source>
@@ -79,6 +108,21 @@
     <message>
         <source>A layout needs a name: type one, then press Return.</source>
         <translation>レイアウトには名前が必要です。名前を入力して Enter キーを押してください。</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::Slots</name>
+    <message>
+        <source>Use S&amp;hortcuts</source>
+        <translation>ショートカットを使用(&amp;H)</translation>
+    </message>
+    <message>
+        <source>%1 to %2 go to the layouts that were given these keys</source>
+        <translation>%1 から %2 で、キーを割り当てたレイアウトに切り替えます</translation>
+    </message>
+    <message>
+        <source>Empty Slot %1</source>
+        <translation>空きスロット %1</translation>
     </message>
 </context>
 <context>
@@ -367,6 +411,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Plugin::ButtonBar</name>
+    <message>
+        <source>Show Button in a Tool Bar</source>
+        <translation>ツールバーにボタンを表示</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>レイアウト</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool</name>
     <message>
         <source>there is no command &quot;%1&quot;</source>
@@ -532,6 +587,14 @@
         <source>&quot;panorel help COMMAND&quot; tells how a command is used. A FILE is a document of layouts, the state of one window, or a settings file that holds such states; &quot;-&quot; is standard input.</source>
         <translation>&quot;panorel help コマンド&quot; でコマンドの使い方を表示します。FILE はレイアウトの文書、単一のウィンドウの状態、またはそのような状態を含む設定ファイルです。&quot;-&quot; は標準入力です。</translation>
     </message>
+    <message>
+        <source>Starts a Qt 5 program with a menu for the layouts of its windows.</source>
+        <translation>ウィンドウのレイアウトのメニューを付けて Qt 5 プログラムを起動します。</translation>
+    </message>
+    <message>
+        <source>Lets the desktop start a program by &quot;panorel run&quot;.</source>
+        <translation>デスクトップからプログラムを &quot;panorel run&quot; で起動するようにします。</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Tool::Console</name>
@@ -694,6 +757,33 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Tool::LauncherCommand</name>
+    <message>
+        <source>there is no such launcher</source>
+        <translation>そのようなランチャーはありません</translation>
+    </message>
+    <message>
+        <source>starts no program</source>
+        <translation>プログラムを起動しません</translation>
+    </message>
+    <message>
+        <source>starts a program that has its own Qt, which does not load plugins</source>
+        <translation>独自の Qt を持ち、プラグインを読み込まないプログラムを起動します</translation>
+    </message>
+    <message>
+        <source>is a launcher of your own and stays as it is</source>
+        <translation>自分で作成したランチャーなので、そのままにします</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>レイアウトの切り替え時にツールバーをそのままにします。</translation>
+    </message>
+    <message>
+        <source>Takes the launcher away again.</source>
+        <translation>ランチャーを取り除きます。</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool::RenderCommand</name>
     <message>
         <source>Window layout</source>
@@ -734,6 +824,33 @@
     <message>
         <source>holds no state of a window</source>
         <translation>ウィンドウの状態がありません</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Tool::RunCommand</name>
+    <message>
+        <source>it cannot be started</source>
+        <translation>起動できません</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>レイアウトの切り替え時にツールバーをそのままにします。</translation>
+    </message>
+    <message>
+        <source>Shows which programs have layouts, and starts none.</source>
+        <translation>レイアウトのあるプログラムを表示し、何も起動しません。</translation>
+    </message>
+    <message>
+        <source>--list takes no program</source>
+        <translation>--list にプログラムは指定できません</translation>
+    </message>
+    <message>
+        <source>a program is missing</source>
+        <translation>プログラムが指定されていません</translation>
+    </message>
+    <message>
+        <source>the plugin is not installed (Debian: panorel-plugin)</source>
+        <translation>プラグインがインストールされていません (Debian: panorel-plugin)</translation>
     </message>
 </context>
 <context>

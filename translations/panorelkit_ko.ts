@@ -17,6 +17,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Cycle</name>
+    <message>
+        <source>&amp;Next Layout</source>
+        <translation>다음 레이아웃(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Layout</source>
+        <translation>이전 레이아웃(&amp;P)</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -29,6 +40,13 @@
     <message>
         <source>Adds the layouts of a file, in place of those of the same name</source>
         <translation>파일의 레이아웃을 추가하고 이름이 같은 레이아웃은 바꿉니다</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::GroupMenu</name>
+    <message>
+        <source>&amp;Group</source>
+        <translation>그룹(&amp;G)</translation>
     </message>
 </context>
 <context>
@@ -67,6 +85,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Lock</name>
+    <message>
+        <source>Loc&amp;k Layout</source>
+        <translation>레이아웃 잠그기(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Nothing can be moved, floated or closed by accident</source>
+        <translation>실수로 옮기거나 떼어 내거나 닫을 수 없습니다</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameField</name>
     <message>
         <source>New name, then Return</source>
@@ -79,6 +108,21 @@
     <message>
         <source>A layout needs a name: type one, then press Return.</source>
         <translation>레이아웃에는 이름이 필요합니다. 이름을 입력한 다음 Enter 키를 누르십시오.</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::Slots</name>
+    <message>
+        <source>Use S&amp;hortcuts</source>
+        <translation>단축키 사용(&amp;H)</translation>
+    </message>
+    <message>
+        <source>%1 to %2 go to the layouts that were given these keys</source>
+        <translation>%1부터 %2까지의 키로 해당 키가 지정된 레이아웃으로 전환합니다</translation>
+    </message>
+    <message>
+        <source>Empty Slot %1</source>
+        <translation>빈 슬롯 %1</translation>
     </message>
 </context>
 <context>
@@ -367,6 +411,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Plugin::ButtonBar</name>
+    <message>
+        <source>Show Button in a Tool Bar</source>
+        <translation>도구 모음에 단추 표시</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>레이아웃</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool</name>
     <message>
         <source>there is no command &quot;%1&quot;</source>
@@ -532,6 +587,14 @@
         <source>&quot;panorel help COMMAND&quot; tells how a command is used. A FILE is a document of layouts, the state of one window, or a settings file that holds such states; &quot;-&quot; is standard input.</source>
         <translation>&quot;panorel help 명령&quot;은 명령의 사용법을 알려 줍니다. FILE은 레이아웃 문서, 단일 창의 상태 또는 그러한 상태가 들어 있는 설정 파일입니다. &quot;-&quot;는 표준 입력입니다.</translation>
     </message>
+    <message>
+        <source>Starts a Qt 5 program with a menu for the layouts of its windows.</source>
+        <translation>창의 레이아웃 메뉴가 있는 Qt 5 프로그램을 시작합니다.</translation>
+    </message>
+    <message>
+        <source>Lets the desktop start a program by &quot;panorel run&quot;.</source>
+        <translation>데스크톱이 &quot;panorel run&quot;으로 프로그램을 시작하게 합니다.</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Tool::Console</name>
@@ -694,6 +757,33 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Tool::LauncherCommand</name>
+    <message>
+        <source>there is no such launcher</source>
+        <translation>그런 실행기가 없습니다</translation>
+    </message>
+    <message>
+        <source>starts no program</source>
+        <translation>프로그램을 시작하지 않습니다</translation>
+    </message>
+    <message>
+        <source>starts a program that has its own Qt, which does not load plugins</source>
+        <translation>플러그인을 불러오지 않는 자체 Qt가 있는 프로그램을 시작합니다</translation>
+    </message>
+    <message>
+        <source>is a launcher of your own and stays as it is</source>
+        <translation>직접 만든 실행기이므로 그대로 둡니다</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>레이아웃을 전환할 때 도구 모음을 그대로 둡니다.</translation>
+    </message>
+    <message>
+        <source>Takes the launcher away again.</source>
+        <translation>실행기를 다시 제거합니다.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool::RenderCommand</name>
     <message>
         <source>Window layout</source>
@@ -734,6 +824,33 @@
     <message>
         <source>holds no state of a window</source>
         <translation>창의 상태가 없습니다</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Tool::RunCommand</name>
+    <message>
+        <source>it cannot be started</source>
+        <translation>시작할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>레이아웃을 전환할 때 도구 모음을 그대로 둡니다.</translation>
+    </message>
+    <message>
+        <source>Shows which programs have layouts, and starts none.</source>
+        <translation>레이아웃이 있는 프로그램을 보여 주고 아무것도 시작하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>--list takes no program</source>
+        <translation>--list에는 프로그램을 지정할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>a program is missing</source>
+        <translation>프로그램이 지정되지 않았습니다</translation>
+    </message>
+    <message>
+        <source>the plugin is not installed (Debian: panorel-plugin)</source>
+        <translation>플러그인이 설치되어 있지 않습니다 (Debian: panorel-plugin)</translation>
     </message>
 </context>
 <context>

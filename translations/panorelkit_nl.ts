@@ -17,6 +17,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Cycle</name>
+    <message>
+        <source>&amp;Next Layout</source>
+        <translation>&amp;Volgende indeling</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Layout</source>
+        <translation>Vorige &amp;indeling</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -29,6 +40,13 @@
     <message>
         <source>Adds the layouts of a file, in place of those of the same name</source>
         <translation>Voegt de indelingen van een bestand toe, in plaats van die met dezelfde naam</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::GroupMenu</name>
+    <message>
+        <source>&amp;Group</source>
+        <translation>&amp;Groep</translation>
     </message>
 </context>
 <context>
@@ -67,6 +85,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Lock</name>
+    <message>
+        <source>Loc&amp;k Layout</source>
+        <translation>I&amp;ndeling vergrendelen</translation>
+    </message>
+    <message>
+        <source>Nothing can be moved, floated or closed by accident</source>
+        <translation>Niets kan per ongeluk worden verplaatst, losgemaakt of gesloten</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameField</name>
     <message>
         <source>New name, then Return</source>
@@ -79,6 +108,21 @@
     <message>
         <source>A layout needs a name: type one, then press Return.</source>
         <translation>Een indeling heeft een naam nodig: typ er een en druk op Enter.</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::Slots</name>
+    <message>
+        <source>Use S&amp;hortcuts</source>
+        <translation>&amp;Sneltoetsen gebruiken</translation>
+    </message>
+    <message>
+        <source>%1 to %2 go to the layouts that were given these keys</source>
+        <translation>%1 tot en met %2 activeren de indelingen waaraan deze toetsen zijn toegekend</translation>
+    </message>
+    <message>
+        <source>Empty Slot %1</source>
+        <translation>Lege plaats %1</translation>
     </message>
 </context>
 <context>
@@ -367,6 +411,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Plugin::ButtonBar</name>
+    <message>
+        <source>Show Button in a Tool Bar</source>
+        <translation>Knop in een werkbalk tonen</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>Indelingen</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool</name>
     <message>
         <source>there is no command &quot;%1&quot;</source>
@@ -532,6 +587,14 @@
         <source>&quot;panorel help COMMAND&quot; tells how a command is used. A FILE is a document of layouts, the state of one window, or a settings file that holds such states; &quot;-&quot; is standard input.</source>
         <translation>&quot;panorel help OPDRACHT&quot; vertelt hoe een opdracht wordt gebruikt. Een FILE is een indelingsdocument, de toestand van één venster of een instellingenbestand dat zulke toestanden bevat; &quot;-&quot; is de standaardinvoer.</translation>
     </message>
+    <message>
+        <source>Starts a Qt 5 program with a menu for the layouts of its windows.</source>
+        <translation>Start een Qt 5-programma met een menu voor de indelingen van de vensters.</translation>
+    </message>
+    <message>
+        <source>Lets the desktop start a program by &quot;panorel run&quot;.</source>
+        <translation>Laat het bureaublad een programma starten met &quot;panorel run&quot;.</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Tool::Console</name>
@@ -694,6 +757,33 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Tool::LauncherCommand</name>
+    <message>
+        <source>there is no such launcher</source>
+        <translation>deze starter bestaat niet</translation>
+    </message>
+    <message>
+        <source>starts no program</source>
+        <translation>start geen programma</translation>
+    </message>
+    <message>
+        <source>starts a program that has its own Qt, which does not load plugins</source>
+        <translation>start een programma met een eigen Qt, dat geen plug-ins laadt</translation>
+    </message>
+    <message>
+        <source>is a launcher of your own and stays as it is</source>
+        <translation>is een zelfgemaakte starter en blijft zoals hij is</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Laat werkbalken zoals ze zijn bij het wisselen van indeling.</translation>
+    </message>
+    <message>
+        <source>Takes the launcher away again.</source>
+        <translation>Verwijdert de starter weer.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool::RenderCommand</name>
     <message>
         <source>Window layout</source>
@@ -734,6 +824,33 @@
     <message>
         <source>holds no state of a window</source>
         <translation>bevat geen toestand van een venster</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Tool::RunCommand</name>
+    <message>
+        <source>it cannot be started</source>
+        <translation>kan niet worden gestart</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Laat werkbalken zoals ze zijn bij het wisselen van indeling.</translation>
+    </message>
+    <message>
+        <source>Shows which programs have layouts, and starts none.</source>
+        <translation>Toont welke programma&apos;s indelingen hebben, zonder er een te starten.</translation>
+    </message>
+    <message>
+        <source>--list takes no program</source>
+        <translation>--list heeft geen programma nodig</translation>
+    </message>
+    <message>
+        <source>a program is missing</source>
+        <translation>er ontbreekt een programma</translation>
+    </message>
+    <message>
+        <source>the plugin is not installed (Debian: panorel-plugin)</source>
+        <translation>de plug-in is niet geïnstalleerd (Debian: panorel-plugin)</translation>
     </message>
 </context>
 <context>

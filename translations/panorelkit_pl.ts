@@ -17,6 +17,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Cycle</name>
+    <message>
+        <source>&amp;Next Layout</source>
+        <translation>&amp;Następny układ</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Layout</source>
+        <translation>&amp;Poprzedni układ</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -29,6 +40,13 @@
     <message>
         <source>Adds the layouts of a file, in place of those of the same name</source>
         <translation>Dodaje układy z pliku, zastępując układy o tych samych nazwach</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::GroupMenu</name>
+    <message>
+        <source>&amp;Group</source>
+        <translation>&amp;Grupa</translation>
     </message>
 </context>
 <context>
@@ -67,6 +85,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Lock</name>
+    <message>
+        <source>Loc&amp;k Layout</source>
+        <translation>&amp;Zablokuj układ</translation>
+    </message>
+    <message>
+        <source>Nothing can be moved, floated or closed by accident</source>
+        <translation>Niczego nie można przypadkowo przesunąć, odłączyć ani zamknąć</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameField</name>
     <message>
         <source>New name, then Return</source>
@@ -79,6 +108,21 @@
     <message>
         <source>A layout needs a name: type one, then press Return.</source>
         <translation>Układ musi mieć nazwę: należy ją wpisać i nacisnąć Enter.</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::Slots</name>
+    <message>
+        <source>Use S&amp;hortcuts</source>
+        <translation>&amp;Używaj skrótów klawiszowych</translation>
+    </message>
+    <message>
+        <source>%1 to %2 go to the layouts that were given these keys</source>
+        <translation>%1 do %2 przełączają na układy, którym przypisano te klawisze</translation>
+    </message>
+    <message>
+        <source>Empty Slot %1</source>
+        <translation>Puste miejsce %1</translation>
     </message>
 </context>
 <context>
@@ -367,6 +411,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Plugin::ButtonBar</name>
+    <message>
+        <source>Show Button in a Tool Bar</source>
+        <translation>Pokaż przycisk na pasku narzędzi</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>Układy</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool</name>
     <message>
         <source>there is no command &quot;%1&quot;</source>
@@ -532,6 +587,14 @@
         <source>&quot;panorel help COMMAND&quot; tells how a command is used. A FILE is a document of layouts, the state of one window, or a settings file that holds such states; &quot;-&quot; is standard input.</source>
         <translation>&quot;panorel help POLECENIE&quot; wyjaśnia, jak używać polecenia. FILE to dokument układów, stan jednego okna lub plik ustawień zawierający takie stany; &quot;-&quot; to standardowe wejście.</translation>
     </message>
+    <message>
+        <source>Starts a Qt 5 program with a menu for the layouts of its windows.</source>
+        <translation>Uruchamia program Qt 5 z menu dla układów jego okien.</translation>
+    </message>
+    <message>
+        <source>Lets the desktop start a program by &quot;panorel run&quot;.</source>
+        <translation>Sprawia, że pulpit uruchamia program przez &quot;panorel run&quot;.</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Tool::Console</name>
@@ -694,6 +757,33 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Tool::LauncherCommand</name>
+    <message>
+        <source>there is no such launcher</source>
+        <translation>nie ma takiego aktywatora</translation>
+    </message>
+    <message>
+        <source>starts no program</source>
+        <translation>nie uruchamia żadnego programu</translation>
+    </message>
+    <message>
+        <source>starts a program that has its own Qt, which does not load plugins</source>
+        <translation>uruchamia program z własnym Qt, które nie wczytuje wtyczek</translation>
+    </message>
+    <message>
+        <source>is a launcher of your own and stays as it is</source>
+        <translation>jest własnym aktywatorem i pozostaje bez zmian</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Pozostawia paski narzędzi bez zmian przy przełączaniu układu.</translation>
+    </message>
+    <message>
+        <source>Takes the launcher away again.</source>
+        <translation>Usuwa aktywator z powrotem.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool::RenderCommand</name>
     <message>
         <source>Window layout</source>
@@ -734,6 +824,33 @@
     <message>
         <source>holds no state of a window</source>
         <translation>nie zawiera stanu okna</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Tool::RunCommand</name>
+    <message>
+        <source>it cannot be started</source>
+        <translation>nie można uruchomić</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Pozostawia paski narzędzi bez zmian przy przełączaniu układu.</translation>
+    </message>
+    <message>
+        <source>Shows which programs have layouts, and starts none.</source>
+        <translation>Pokazuje, które programy mają układy, i żadnego nie uruchamia.</translation>
+    </message>
+    <message>
+        <source>--list takes no program</source>
+        <translation>--list nie przyjmuje programu</translation>
+    </message>
+    <message>
+        <source>a program is missing</source>
+        <translation>brakuje programu</translation>
+    </message>
+    <message>
+        <source>the plugin is not installed (Debian: panorel-plugin)</source>
+        <translation>wtyczka nie jest zainstalowana (Debian: panorel-plugin)</translation>
     </message>
 </context>
 <context>

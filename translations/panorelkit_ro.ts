@@ -17,6 +17,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Cycle</name>
+    <message>
+        <source>&amp;Next Layout</source>
+        <translation>&amp;Aranjamentul următor</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Layout</source>
+        <translation>A&amp;ranjamentul anterior</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -29,6 +40,13 @@
     <message>
         <source>Adds the layouts of a file, in place of those of the same name</source>
         <translation>Adaugă aranjamentele dintr-un fișier, în locul celor cu același nume</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::GroupMenu</name>
+    <message>
+        <source>&amp;Group</source>
+        <translation>&amp;Grup</translation>
     </message>
 </context>
 <context>
@@ -67,6 +85,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Lock</name>
+    <message>
+        <source>Loc&amp;k Layout</source>
+        <translation>&amp;Blochează aranjamentul</translation>
+    </message>
+    <message>
+        <source>Nothing can be moved, floated or closed by accident</source>
+        <translation>Nimic nu poate fi mutat, desprins sau închis din greșeală</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameField</name>
     <message>
         <source>New name, then Return</source>
@@ -79,6 +108,21 @@
     <message>
         <source>A layout needs a name: type one, then press Return.</source>
         <translation>Un aranjament are nevoie de un nume: introduceți unul, apoi apăsați Enter.</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::Slots</name>
+    <message>
+        <source>Use S&amp;hortcuts</source>
+        <translation>&amp;Folosește scurtături</translation>
+    </message>
+    <message>
+        <source>%1 to %2 go to the layouts that were given these keys</source>
+        <translation>%1 până la %2 activează aranjamentele cărora le sunt atribuite aceste taste</translation>
+    </message>
+    <message>
+        <source>Empty Slot %1</source>
+        <translation>Poziția %1 goală</translation>
     </message>
 </context>
 <context>
@@ -367,6 +411,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Plugin::ButtonBar</name>
+    <message>
+        <source>Show Button in a Tool Bar</source>
+        <translation>Arată butonul într-o bară de instrumente</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>Aranjamente</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool</name>
     <message>
         <source>there is no command &quot;%1&quot;</source>
@@ -532,6 +587,14 @@
         <source>&quot;panorel help COMMAND&quot; tells how a command is used. A FILE is a document of layouts, the state of one window, or a settings file that holds such states; &quot;-&quot; is standard input.</source>
         <translation>&quot;panorel help COMANDĂ&quot; arată cum se folosește o comandă. Un FILE este un document de aranjamente, starea unei ferestre sau un fișier de configurare care conține astfel de stări; &quot;-&quot; este intrarea standard.</translation>
     </message>
+    <message>
+        <source>Starts a Qt 5 program with a menu for the layouts of its windows.</source>
+        <translation>Pornește un program Qt 5 cu un meniu pentru aranjamentele ferestrelor sale.</translation>
+    </message>
+    <message>
+        <source>Lets the desktop start a program by &quot;panorel run&quot;.</source>
+        <translation>Face ca mediul de birou să pornească un program cu &quot;panorel run&quot;.</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Tool::Console</name>
@@ -694,6 +757,33 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Tool::LauncherCommand</name>
+    <message>
+        <source>there is no such launcher</source>
+        <translation>nu există acest lansator</translation>
+    </message>
+    <message>
+        <source>starts no program</source>
+        <translation>nu pornește niciun program</translation>
+    </message>
+    <message>
+        <source>starts a program that has its own Qt, which does not load plugins</source>
+        <translation>pornește un program cu propriul Qt, care nu încarcă extensii</translation>
+    </message>
+    <message>
+        <source>is a launcher of your own and stays as it is</source>
+        <translation>este un lansator creat de dumneavoastră și rămâne cum este</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Lasă barele de instrumente cum sunt la schimbarea aranjamentului.</translation>
+    </message>
+    <message>
+        <source>Takes the launcher away again.</source>
+        <translation>Înlătură din nou lansatorul.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool::RenderCommand</name>
     <message>
         <source>Window layout</source>
@@ -734,6 +824,33 @@
     <message>
         <source>holds no state of a window</source>
         <translation>nu conține starea unei ferestre</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Tool::RunCommand</name>
+    <message>
+        <source>it cannot be started</source>
+        <translation>nu poate fi pornit</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Lasă barele de instrumente cum sunt la schimbarea aranjamentului.</translation>
+    </message>
+    <message>
+        <source>Shows which programs have layouts, and starts none.</source>
+        <translation>Arată ce programe au aranjamente, fără a porni vreunul.</translation>
+    </message>
+    <message>
+        <source>--list takes no program</source>
+        <translation>--list nu acceptă un program</translation>
+    </message>
+    <message>
+        <source>a program is missing</source>
+        <translation>lipsește un program</translation>
+    </message>
+    <message>
+        <source>the plugin is not installed (Debian: panorel-plugin)</source>
+        <translation>extensia nu este instalată (Debian: panorel-plugin)</translation>
     </message>
 </context>
 <context>

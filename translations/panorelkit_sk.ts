@@ -17,6 +17,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Cycle</name>
+    <message>
+        <source>&amp;Next Layout</source>
+        <translation>Ďalšie &amp;rozloženie</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Layout</source>
+        <translation>&amp;Predchádzajúce rozloženie</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -29,6 +40,13 @@
     <message>
         <source>Adds the layouts of a file, in place of those of the same name</source>
         <translation>Pridá rozloženia zo súboru a nahradí tie s rovnakým názvom</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::GroupMenu</name>
+    <message>
+        <source>&amp;Group</source>
+        <translation>&amp;Skupina</translation>
     </message>
 </context>
 <context>
@@ -67,6 +85,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Lock</name>
+    <message>
+        <source>Loc&amp;k Layout</source>
+        <translation>&amp;Zamknúť rozloženie</translation>
+    </message>
+    <message>
+        <source>Nothing can be moved, floated or closed by accident</source>
+        <translation>Nič sa nedá omylom presunúť, uvoľniť ani zavrieť</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameField</name>
     <message>
         <source>New name, then Return</source>
@@ -79,6 +108,21 @@
     <message>
         <source>A layout needs a name: type one, then press Return.</source>
         <translation>Rozloženie potrebuje názov: zadajte ho a stlačte Enter.</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::Slots</name>
+    <message>
+        <source>Use S&amp;hortcuts</source>
+        <translation>Používať &amp;klávesové skratky</translation>
+    </message>
+    <message>
+        <source>%1 to %2 go to the layouts that were given these keys</source>
+        <translation>%1 až %2 prepínajú na rozloženia, ktorým boli tieto klávesy priradené</translation>
+    </message>
+    <message>
+        <source>Empty Slot %1</source>
+        <translation>Prázdna pozícia %1</translation>
     </message>
 </context>
 <context>
@@ -367,6 +411,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Plugin::ButtonBar</name>
+    <message>
+        <source>Show Button in a Tool Bar</source>
+        <translation>Zobraziť tlačidlo v paneli nástrojov</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>Rozloženia</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool</name>
     <message>
         <source>there is no command &quot;%1&quot;</source>
@@ -532,6 +587,14 @@
         <source>&quot;panorel help COMMAND&quot; tells how a command is used. A FILE is a document of layouts, the state of one window, or a settings file that holds such states; &quot;-&quot; is standard input.</source>
         <translation>&quot;panorel help PRÍKAZ&quot; vysvetlí použitie príkazu. FILE je dokument rozložení, stav jedného okna alebo súbor nastavení, ktorý také stavy obsahuje; &quot;-&quot; je štandardný vstup.</translation>
     </message>
+    <message>
+        <source>Starts a Qt 5 program with a menu for the layouts of its windows.</source>
+        <translation>Spustí program pre Qt 5 s ponukou pre rozloženia jeho okien.</translation>
+    </message>
+    <message>
+        <source>Lets the desktop start a program by &quot;panorel run&quot;.</source>
+        <translation>Zariadi, aby pracovná plocha spúšťala program pomocou &quot;panorel run&quot;.</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Tool::Console</name>
@@ -694,6 +757,33 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Tool::LauncherCommand</name>
+    <message>
+        <source>there is no such launcher</source>
+        <translation>taký spúšťač neexistuje</translation>
+    </message>
+    <message>
+        <source>starts no program</source>
+        <translation>nespúšťa žiadny program</translation>
+    </message>
+    <message>
+        <source>starts a program that has its own Qt, which does not load plugins</source>
+        <translation>spúšťa program s vlastným Qt, ktoré nenačítava zásuvné moduly</translation>
+    </message>
+    <message>
+        <source>is a launcher of your own and stays as it is</source>
+        <translation>je váš vlastný spúšťač a zostane bez zmeny</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Pri prepnutí rozloženia ponechá panely nástrojov bez zmeny.</translation>
+    </message>
+    <message>
+        <source>Takes the launcher away again.</source>
+        <translation>Spúšťač opäť odstráni.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool::RenderCommand</name>
     <message>
         <source>Window layout</source>
@@ -734,6 +824,33 @@
     <message>
         <source>holds no state of a window</source>
         <translation>neobsahuje stav okna</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Tool::RunCommand</name>
+    <message>
+        <source>it cannot be started</source>
+        <translation>nedá sa spustiť</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Pri prepnutí rozloženia ponechá panely nástrojov bez zmeny.</translation>
+    </message>
+    <message>
+        <source>Shows which programs have layouts, and starts none.</source>
+        <translation>Ukáže, ktoré programy majú rozloženia, a žiadny nespustí.</translation>
+    </message>
+    <message>
+        <source>--list takes no program</source>
+        <translation>--list neprijíma program</translation>
+    </message>
+    <message>
+        <source>a program is missing</source>
+        <translation>chýba program</translation>
+    </message>
+    <message>
+        <source>the plugin is not installed (Debian: panorel-plugin)</source>
+        <translation>zásuvný modul nie je nainštalovaný (Debian: panorel-plugin)</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Cycle</name>
+    <message>
+        <source>&amp;Next Layout</source>
+        <translation>&amp;Sonraki yerleşim</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Layout</source>
+        <translation>Önceki &amp;yerleşim</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -29,6 +40,13 @@
     <message>
         <source>Adds the layouts of a file, in place of those of the same name</source>
         <translation>Bir dosyadaki yerleşimleri ekler, aynı adlı olanların yerine geçirir</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::GroupMenu</name>
+    <message>
+        <source>&amp;Group</source>
+        <translation>&amp;Grup</translation>
     </message>
 </context>
 <context>
@@ -67,6 +85,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Lock</name>
+    <message>
+        <source>Loc&amp;k Layout</source>
+        <translation>Yerleşimi &amp;kilitle</translation>
+    </message>
+    <message>
+        <source>Nothing can be moved, floated or closed by accident</source>
+        <translation>Hiçbir şey yanlışlıkla taşınamaz, ayrılamaz veya kapatılamaz</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameField</name>
     <message>
         <source>New name, then Return</source>
@@ -79,6 +108,21 @@
     <message>
         <source>A layout needs a name: type one, then press Return.</source>
         <translation>Yerleşimin bir adı olmalı: adı yazın ve Enter tuşuna basın.</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::Slots</name>
+    <message>
+        <source>Use S&amp;hortcuts</source>
+        <translation>Kıs&amp;ayolları kullan</translation>
+    </message>
+    <message>
+        <source>%1 to %2 go to the layouts that were given these keys</source>
+        <translation>%1 - %2 bu tuşların atandığı yerleşimlere geçer</translation>
+    </message>
+    <message>
+        <source>Empty Slot %1</source>
+        <translation>Boş yuva %1</translation>
     </message>
 </context>
 <context>
@@ -367,6 +411,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Plugin::ButtonBar</name>
+    <message>
+        <source>Show Button in a Tool Bar</source>
+        <translation>Düğmeyi bir araç çubuğunda göster</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>Yerleşimler</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool</name>
     <message>
         <source>there is no command &quot;%1&quot;</source>
@@ -532,6 +587,14 @@
         <source>&quot;panorel help COMMAND&quot; tells how a command is used. A FILE is a document of layouts, the state of one window, or a settings file that holds such states; &quot;-&quot; is standard input.</source>
         <translation>&quot;panorel help KOMUT&quot; bir komutun nasıl kullanıldığını anlatır. FILE; bir yerleşim belgesi, tek bir pencerenin durumu veya böyle durumlar içeren bir ayar dosyasıdır; &quot;-&quot; standart girdidir.</translation>
     </message>
+    <message>
+        <source>Starts a Qt 5 program with a menu for the layouts of its windows.</source>
+        <translation>Bir Qt 5 programını, pencerelerinin yerleşimleri için bir menüyle başlatır.</translation>
+    </message>
+    <message>
+        <source>Lets the desktop start a program by &quot;panorel run&quot;.</source>
+        <translation>Masaüstünün bir programı &quot;panorel run&quot; ile başlatmasını sağlar.</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Tool::Console</name>
@@ -694,6 +757,33 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Tool::LauncherCommand</name>
+    <message>
+        <source>there is no such launcher</source>
+        <translation>böyle bir başlatıcı yok</translation>
+    </message>
+    <message>
+        <source>starts no program</source>
+        <translation>hiçbir program başlatmıyor</translation>
+    </message>
+    <message>
+        <source>starts a program that has its own Qt, which does not load plugins</source>
+        <translation>kendi Qt kitaplığı olan ve eklenti yüklemeyen bir program başlatıyor</translation>
+    </message>
+    <message>
+        <source>is a launcher of your own and stays as it is</source>
+        <translation>kendi oluşturduğunuz bir başlatıcı ve olduğu gibi kalır</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Yerleşim değişirken araç çubuklarını olduğu gibi bırakır.</translation>
+    </message>
+    <message>
+        <source>Takes the launcher away again.</source>
+        <translation>Başlatıcıyı yeniden kaldırır.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool::RenderCommand</name>
     <message>
         <source>Window layout</source>
@@ -734,6 +824,33 @@
     <message>
         <source>holds no state of a window</source>
         <translation>pencere durumu içermiyor</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Tool::RunCommand</name>
+    <message>
+        <source>it cannot be started</source>
+        <translation>başlatılamıyor</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>Yerleşim değişirken araç çubuklarını olduğu gibi bırakır.</translation>
+    </message>
+    <message>
+        <source>Shows which programs have layouts, and starts none.</source>
+        <translation>Hangi programların yerleşimleri olduğunu gösterir, hiçbirini başlatmaz.</translation>
+    </message>
+    <message>
+        <source>--list takes no program</source>
+        <translation>--list program almaz</translation>
+    </message>
+    <message>
+        <source>a program is missing</source>
+        <translation>bir program eksik</translation>
+    </message>
+    <message>
+        <source>the plugin is not installed (Debian: panorel-plugin)</source>
+        <translation>eklenti kurulu değil (Debian: panorel-plugin)</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Cycle</name>
+    <message>
+        <source>&amp;Next Layout</source>
+        <translation>下一個版面配置(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Layout</source>
+        <translation>上一個版面配置(&amp;P)</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -29,6 +40,13 @@
     <message>
         <source>Adds the layouts of a file, in place of those of the same name</source>
         <translation>加入檔案中的版面配置，並取代同名的版面配置</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::GroupMenu</name>
+    <message>
+        <source>&amp;Group</source>
+        <translation>群組(&amp;G)</translation>
     </message>
 </context>
 <context>
@@ -67,6 +85,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::Lock</name>
+    <message>
+        <source>Loc&amp;k Layout</source>
+        <translation>鎖定版面配置(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Nothing can be moved, floated or closed by accident</source>
+        <translation>不會意外移動、浮動或關閉任何項目</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameField</name>
     <message>
         <source>New name, then Return</source>
@@ -79,6 +108,21 @@
     <message>
         <source>A layout needs a name: type one, then press Return.</source>
         <translation>版面配置需要名稱：請輸入名稱，然後按 Enter 鍵。</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::Slots</name>
+    <message>
+        <source>Use S&amp;hortcuts</source>
+        <translation>使用快速鍵(&amp;H)</translation>
+    </message>
+    <message>
+        <source>%1 to %2 go to the layouts that were given these keys</source>
+        <translation>%1 至 %2 可切換到已指派這些按鍵的版面配置</translation>
+    </message>
+    <message>
+        <source>Empty Slot %1</source>
+        <translation>空的位置 %1</translation>
     </message>
 </context>
 <context>
@@ -367,6 +411,17 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Plugin::ButtonBar</name>
+    <message>
+        <source>Show Button in a Tool Bar</source>
+        <translation>在工具列中顯示按鈕</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>版面配置</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool</name>
     <message>
         <source>there is no command &quot;%1&quot;</source>
@@ -532,6 +587,14 @@
         <source>&quot;panorel help COMMAND&quot; tells how a command is used. A FILE is a document of layouts, the state of one window, or a settings file that holds such states; &quot;-&quot; is standard input.</source>
         <translation>&quot;panorel help 命令&quot; 會說明命令的用法。FILE 可以是版面配置文件、單一視窗的狀態，或含有此類狀態的設定檔；&quot;-&quot; 代表標準輸入。</translation>
     </message>
+    <message>
+        <source>Starts a Qt 5 program with a menu for the layouts of its windows.</source>
+        <translation>啟動 Qt 5 程式，並提供其視窗版面配置的選單。</translation>
+    </message>
+    <message>
+        <source>Lets the desktop start a program by &quot;panorel run&quot;.</source>
+        <translation>讓桌面以 &quot;panorel run&quot; 啟動程式。</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Tool::Console</name>
@@ -694,6 +757,33 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Tool::LauncherCommand</name>
+    <message>
+        <source>there is no such launcher</source>
+        <translation>沒有這個啟動器</translation>
+    </message>
+    <message>
+        <source>starts no program</source>
+        <translation>不會啟動任何程式</translation>
+    </message>
+    <message>
+        <source>starts a program that has its own Qt, which does not load plugins</source>
+        <translation>啟動的程式有自己的 Qt，不會載入外掛程式</translation>
+    </message>
+    <message>
+        <source>is a launcher of your own and stays as it is</source>
+        <translation>是您自己的啟動器，保持不變</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>切換版面配置時保持工具列不變。</translation>
+    </message>
+    <message>
+        <source>Takes the launcher away again.</source>
+        <translation>再次移除啟動器。</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Tool::RenderCommand</name>
     <message>
         <source>Window layout</source>
@@ -734,6 +824,33 @@
     <message>
         <source>holds no state of a window</source>
         <translation>不含視窗的狀態</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Tool::RunCommand</name>
+    <message>
+        <source>it cannot be started</source>
+        <translation>無法啟動</translation>
+    </message>
+    <message>
+        <source>Leaves tool bars as they are when a layout is switched.</source>
+        <translation>切換版面配置時保持工具列不變。</translation>
+    </message>
+    <message>
+        <source>Shows which programs have layouts, and starts none.</source>
+        <translation>顯示哪些程式有版面配置，不啟動任何程式。</translation>
+    </message>
+    <message>
+        <source>--list takes no program</source>
+        <translation>--list 不能指定程式</translation>
+    </message>
+    <message>
+        <source>a program is missing</source>
+        <translation>缺少程式</translation>
+    </message>
+    <message>
+        <source>the plugin is not installed (Debian: panorel-plugin)</source>
+        <translation>外掛程式未安裝 (Debian: panorel-plugin)</translation>
     </message>
 </context>
 <context>

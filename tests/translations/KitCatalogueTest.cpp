@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Catalogue.h"
 
+#include <QHash>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -30,10 +31,36 @@ QStringList fixedParts(const QString& text)
     return parts;
 }
 
+// The letters to press with Alt, in upper case.
+QString mnemonics(const QString& text)
+{
+    static const QRegularExpression mnemonic(QStringLiteral("&([^& ])"));
+    QString letters;
+    auto matches = mnemonic.globalMatch(text);
+    while (matches.hasNext())
+        letters.append(matches.next().captured(1).toUpper());
+    return letters;
+}
+
+// The menu or dialog that shows texts of the context; those that share one are listed here.
+QString placeOf(const QString& context)
+{
+    static const QHash<QString, QString> shared{
+        {QStringLiteral("Cycle"), QStringLiteral("menu")},
+        {QStringLiteral("GroupMenu"), QStringLiteral("menu")},
+        {QStringLiteral("KitEntries"), QStringLiteral("menu")},
+        {QStringLiteral("Lock"), QStringLiteral("menu")},
+        {QStringLiteral("Slots"), QStringLiteral("menu")},
+        {QStringLiteral("DetailsPane"), QStringLiteral("dialog")},
+        {QStringLiteral("LayoutsDialog"), QStringLiteral("dialog")}};
+    const QString name = context.section(QStringLiteral("::"), -1);
+    return shared.value(name, name);
+}
+
 } // namespace
 
 /** The catalogues of Panorel Kit and the command: as many languages as the main library's, each
-    complete. */
+    complete, with letters for Alt that differ within a menu or dialog. */
 class KitCatalogueTest : public QObject
 {
     Q_OBJECT
@@ -77,14 +104,18 @@ void KitCatalogueTest::catalogue()
     QFETCH(QString, language);
     const Catalogue catalogue = Catalogue::read(kitCatalogueFile(language));
     QStringList keys;
+    QHash<QString, QString> letters;
     for (const Message& message : catalogue.messages()) {
         keys.append(message.key());
         const QByteArray where = message.source.toUtf8();
         QVERIFY2(message.state.isEmpty(), where.constData());
         QVERIFY2(!message.translation.trimmed().isEmpty(), where.constData());
         QVERIFY2(fixedParts(message.translation) == fixedParts(message.source), where.constData());
-        const bool hasMnemonic = message.source.startsWith(QLatin1Char('&'));
-        QCOMPARE(message.translation.count(QLatin1Char('&')), hasMnemonic ? 1 : 0);
+        const QString letter = mnemonics(message.translation);
+        QCOMPARE(letter.size(), mnemonics(message.source).size());
+        QVERIFY2(letter.isEmpty() || !letters[placeOf(message.context)].contains(letter),
+                 where.constData());
+        letters[placeOf(message.context)] += letter;
     }
     keys.sort();
     QCOMPARE(keys, m_sources);
