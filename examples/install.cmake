@@ -6,7 +6,7 @@ set(PANOREL_EXAMPLES_DIR "${CMAKE_INSTALL_DATADIR}/doc/panorel-examples")
 install(DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}/"
     DESTINATION "${PANOREL_EXAMPLES_DIR}/examples"
     COMPONENT examples EXCLUDE_FROM_ALL
-    FILES_MATCHING PATTERN CMakeLists.txt PATTERN README.md PATTERN "*.cpp" PATTERN "*.h"
+    FILES_MATCHING PATTERN CMakeLists.txt PATTERN README.md PATTERN "*.cpp" PATTERN "*.h" PATTERN "*.ts"
     PATTERN "*Test.cpp" EXCLUDE)
 panorel_install_rpath(workbench "/../..")
 install(TARGETS workbench

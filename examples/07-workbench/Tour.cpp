@@ -34,7 +34,6 @@ bool write(const QString& fileName, const QByteArray& bytes)
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
 }
 
-// Only for names of layouts, which are the same in all languages.
 QAction* entry(const QMenu& menu, const QString& name)
 {
     const QList<QAction*> actions = menu.actions();
@@ -111,11 +110,11 @@ bool Tour::cycle()
     // Standard, Focus, Wide: after the last comes the first.
     click(button, QPoint(8, button.height() / 2));
     if (!step(QStringLiteral("next"), QStringLiteral("The button goes on to \"Standard\"."),
-              m_workbench.manager().activeView() == QLatin1String("Standard")))
+              m_workbench.manager().activeView() == Workbench::tr("Standard")))
         return false;
     click(button, QPoint(8, button.height() / 2));
     if (!step(QStringLiteral("next-again"), QStringLiteral("Once more to \"Focus\"."),
-              m_workbench.manager().activeView() == QLatin1String("Focus")))
+              m_workbench.manager().activeView() == Workbench::tr("Focus")))
         return false;
     click(button, QPoint(8, button.height() / 2));
     return step(QStringLiteral("next-wide"), QStringLiteral("And round to \"Wide\"."), wide);
@@ -135,10 +134,10 @@ bool Tour::deleteAndUndo()
 
 bool Tour::nextByKeys()
 {
-    m_workbench.manager().activateView(QStringLiteral("Standard"));
+    m_workbench.manager().activateView(Workbench::tr("Standard"));
     press(Qt::Key_L, Qt::ControlModifier);
     return step(QStringLiteral("by-keys"), QStringLiteral("Ctrl+L goes to the next layout."),
-                m_workbench.manager().activeView() == QLatin1String("Focus"));
+                m_workbench.manager().activeView() == Workbench::tr("Focus"));
 }
 
 bool Tour::switchGroups()
@@ -195,7 +194,7 @@ bool Tour::resetAll()
         return false;
     picture(QStringLiteral("reset"));
     press(Qt::Key_Return);
-    const QStringList shipped{QStringLiteral("Standard"), QStringLiteral("Focus")};
+    const QStringList shipped{Workbench::tr("Standard"), Workbench::tr("Focus")};
     return step(QStringLiteral("reset-done"),
                 QStringLiteral("A reset brings back the first layouts."),
                 m_workbench.manager().views() == shipped);
@@ -242,7 +241,7 @@ void Tour::place()
     const bool small = screen.width() < 1250;
     m_workbench.editor().setGeometry(16, 40, 766, 470);
     m_workbench.plot().setGeometry(small ? QRect(300, 560, 440, 210) : QRect(800, 40, 440, 300));
-    m_workbench.manager().activateView(QStringLiteral("Standard"));
+    m_workbench.manager().activateView(Workbench::tr("Standard"));
     settle();
     // Away from what is shown.
     m_workbench.editor().dock(QStringLiteral("Properties"))->setGeometry(380, 215, 190, 125);

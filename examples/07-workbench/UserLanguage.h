@@ -4,8 +4,9 @@
 #include <QTranslator>
 
 /**
- * Shows Qt's own texts, such as those of buttons, in the user's language as long as it lives, and
- * windows from right to left where the language is written so. Panorel's texts need no help.
+ * Shows the program's texts and Qt's own, such as those of buttons, in the user's language as long
+ * as it lives, and windows from right to left where the language is written so. Panorel loads its
+ * texts itself.
  */
 class UserLanguage
 {
@@ -15,4 +16,5 @@ public:
 
 private:
     QTranslator m_qtTexts;
+    QTranslator m_texts;
 };

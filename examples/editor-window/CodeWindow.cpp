@@ -32,7 +32,7 @@ CodeWindow::CodeWindow(QWidget* parent)
     , m_editor(EditorContent::createEditor())
     , m_console(EditorContent::createConsole())
 {
-    setWindowTitle(tr("TideGauge.cpp - Harbour"));
+    setWindowTitle(QStringLiteral("TideGauge.cpp - Harbour"));
     setCentralWidget(m_editor);
     addDocks();
     addToolBars();
@@ -90,17 +90,17 @@ QMenu* CodeWindow::addViewMenu()
 
 void CodeWindow::addToolBars()
 {
-    const auto addBar = [this](const QString& name) {
-        QToolBar* bar = addToolBar(name);
+    const auto addBar = [this](const QString& name, const QString& title) {
+        QToolBar* bar = addToolBar(title);
         bar->setObjectName(name);
         return bar;
     };
-    QToolBar* file = addBar(QStringLiteral("File"));
+    QToolBar* file = addBar(QStringLiteral("File"), tr("File"));
     addCommand(file, tr("New"), QStyle::SP_FileIcon);
     addCommand(file, tr("Open"), QStyle::SP_DialogOpenButton);
     addCommand(file, tr("Save"), QStyle::SP_DialogSaveButton);
 
-    QToolBar* edit = addBar(QStringLiteral("Edit"));
+    QToolBar* edit = addBar(QStringLiteral("Edit"), tr("Edit"));
     connect(addCommand(edit, tr("Undo"), QStyle::SP_ArrowBack), &QAction::triggered, m_editor,
             &QPlainTextEdit::undo);
     connect(addCommand(edit, tr("Redo"), QStyle::SP_ArrowForward), &QAction::triggered, m_editor,
@@ -108,7 +108,7 @@ void CodeWindow::addToolBars()
     addCommand(edit, tr("Find"), QStyle::SP_FileDialogContentsView);
 
     addToolBarBreak();
-    QToolBar* debug = addBar(QStringLiteral("Debug"));
+    QToolBar* debug = addBar(QStringLiteral("Debug"), tr("Debug"));
     debug->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     const QColor color = palette().color(QPalette::ButtonText);
     const QList<QAction*> commands{addCommand(debug, tr("Run"), QStyle::SP_MediaPlay),
@@ -121,24 +121,27 @@ void CodeWindow::addToolBars()
 
 void CodeWindow::addDocks()
 {
-    addDock(QStringLiteral("Project"), EditorContent::createProject(), Qt::LeftDockWidgetArea);
-    QDockWidget* outline =
-        addDock(QStringLiteral("Outline"), EditorContent::createOutline(), Qt::RightDockWidgetArea);
-    QDockWidget* search =
-        addDock(QStringLiteral("Search"), EditorContent::createSearch(), Qt::RightDockWidgetArea);
+    addDock(QStringLiteral("Project"), tr("Project"), EditorContent::createProject(),
+            Qt::LeftDockWidgetArea);
+    QDockWidget* outline = addDock(QStringLiteral("Outline"), tr("Outline"),
+                                   EditorContent::createOutline(), Qt::RightDockWidgetArea);
+    QDockWidget* search = addDock(QStringLiteral("Search"), tr("Search"),
+                                  EditorContent::createSearch(), Qt::RightDockWidgetArea);
     tabifyDockWidget(outline, search);
     outline->raise();
-    addDock(QStringLiteral("Console"), m_console, Qt::BottomDockWidgetArea);
-    addDock(QStringLiteral("Variables"), EditorContent::createVariables(), Qt::BottomDockWidgetArea)
+    addDock(QStringLiteral("Console"), tr("Console"), m_console, Qt::BottomDockWidgetArea);
+    addDock(QStringLiteral("Variables"), tr("Variables"), EditorContent::createVariables(),
+            Qt::BottomDockWidgetArea)
         ->hide();
-    addDock(QStringLiteral("Properties"), EditorContent::createProperties(),
+    addDock(QStringLiteral("Properties"), tr("Properties"), EditorContent::createProperties(),
             Qt::RightDockWidgetArea)
         ->hide();
 }
 
-QDockWidget* CodeWindow::addDock(const QString& name, QWidget* content, Qt::DockWidgetArea area)
+QDockWidget* CodeWindow::addDock(const QString& name, const QString& title, QWidget* content,
+                                 Qt::DockWidgetArea area)
 {
-    auto* dock = new QDockWidget(name, this);
+    auto* dock = new QDockWidget(title, this);
     dock->setObjectName(name);
     dock->setWidget(content);
     addDockWidget(area, dock);
@@ -150,7 +153,7 @@ QAction* CodeWindow::addCommand(QWidget* bar, const QString& text, int icon)
     auto* action =
         new QAction(style()->standardIcon(static_cast<QStyle::StandardPixmap>(icon)), text, this);
     connect(action, &QAction::triggered, m_console,
-            [this, text] { m_console->appendPlainText(tr("> %1").arg(text)); });
+            [this, text] { m_console->appendPlainText(QStringLiteral("> ") + text); });
     bar->addAction(action);
     return action;
 }

@@ -6,8 +6,8 @@
 class QPlainTextEdit;
 
 /**
- * The main window of a small editor, and nothing that knows of Panorel. What matters to it are the
- * object names: by them Qt finds the dock widgets and tool bars of a stored layout again.
+ * The main window of a small editor, and nothing that knows of Panorel. Qt finds its dock
+ * widgets and tool bars in a stored layout by their object names.
  */
 class CodeWindow : public QMainWindow
 {
@@ -27,7 +27,8 @@ private:
     void addToolBars();
     void addDocks();
     QMenu* addViewMenu();
-    QDockWidget* addDock(const QString& name, QWidget* content, Qt::DockWidgetArea area);
+    QDockWidget* addDock(const QString& name, const QString& title, QWidget* content,
+                         Qt::DockWidgetArea area);
     QAction* addCommand(QWidget* bar, const QString& text, int icon);
 
     QPlainTextEdit* m_editor;

@@ -2,6 +2,7 @@
 #include "EditorContent.h"
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QFont>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -48,6 +49,11 @@ std::string TideGauge::name() const
 } // namespace Harbour
 )";
 
+class Text
+{
+    Q_DECLARE_TR_FUNCTIONS(EditorContent)
+};
+
 class CodeHighlighter : public QSyntaxHighlighter
 {
 public:
@@ -90,7 +96,7 @@ QPlainTextEdit* createTextView(const QString& text)
 QTreeWidget* createTable(const QString& firstTitle, const QList<QStringList>& rows)
 {
     auto* table = new QTreeWidget;
-    table->setHeaderLabels({firstTitle, QStringLiteral("Value")});
+    table->setHeaderLabels({firstTitle, Text::tr("Value")});
     table->setRootIsDecorated(false);
     for (const QStringList& row : rows)
         table->addTopLevelItem(new QTreeWidgetItem(row));
@@ -161,7 +167,7 @@ QWidget* createSearch()
 
 QWidget* createProperties()
 {
-    return createTable(QStringLiteral("Property"),
+    return createTable(Text::tr("Property"),
                        {{QStringLiteral("Lines"), QStringLiteral("30")},
                         {QStringLiteral("Encoding"), QStringLiteral("UTF-8")},
                         {QStringLiteral("Indent"), QStringLiteral("4 spaces")}});
@@ -169,7 +175,7 @@ QWidget* createProperties()
 
 QWidget* createVariables()
 {
-    return createTable(QStringLiteral("Variable"),
+    return createTable(Text::tr("Variable"),
                        {{QStringLiteral("sum"), QStringLiteral("86.4")},
                         {QStringLiteral("m_id"), QStringLiteral("7")},
                         {QStringLiteral("m_lastLevel"), QStringLiteral("1.38")}});

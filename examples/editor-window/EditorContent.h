@@ -4,7 +4,7 @@
 class QPlainTextEdit;
 class QWidget;
 
-/** What stands in the editor and its dock widgets. The caller owns what it gets. */
+/** What the editor and its dock widgets show. The caller owns what it gets. */
 namespace EditorContent {
 
 QPlainTextEdit* createEditor();

@@ -66,7 +66,7 @@ QListWidget* createStations()
 QTreeWidget* createReadings()
 {
     auto* table = new QTreeWidget;
-    table->setHeaderLabels({QStringLiteral("Time"), QStringLiteral("Level")});
+    table->setHeaderLabels({PlotWindow::tr("Time"), PlotWindow::tr("Level")});
     table->setRootIsDecorated(false);
     table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     table->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
@@ -85,9 +85,9 @@ PlotWindow::PlotWindow(QWidget* parent)
 {
     setWindowTitle(tr("Tide - Harbour"));
     setCentralWidget(new TidePlot);
-    addDock(QStringLiteral("Stations"), createStations(), Qt::LeftDockWidgetArea);
-    addDock(QStringLiteral("Readings"), createReadings(), Qt::RightDockWidgetArea);
-    QToolBar* bar = addToolBar(QStringLiteral("Plot"));
+    addDock(QStringLiteral("Stations"), tr("Stations"), createStations(), Qt::LeftDockWidgetArea);
+    addDock(QStringLiteral("Readings"), tr("Readings"), createReadings(), Qt::RightDockWidgetArea);
+    QToolBar* bar = addToolBar(tr("Plot"));
     bar->setObjectName(QStringLiteral("Plot"));
     bar->addAction(style()->standardIcon(QStyle::SP_BrowserReload), tr("Reload"));
     bar->addAction(style()->standardIcon(QStyle::SP_DialogSaveButton), tr("Save Picture"));
@@ -106,9 +106,10 @@ QDockWidget* PlotWindow::dock(const QString& name) const
     return findChild<QDockWidget*>(name);
 }
 
-void PlotWindow::addDock(const QString& name, QWidget* content, Qt::DockWidgetArea area)
+void PlotWindow::addDock(const QString& name, const QString& title, QWidget* content,
+                         Qt::DockWidgetArea area)
 {
-    auto* dock = new QDockWidget(name, this);
+    auto* dock = new QDockWidget(title, this);
     dock->setObjectName(name);
     dock->setWidget(content);
     addDockWidget(area, dock);

@@ -17,5 +17,6 @@ public:
     QDockWidget* dock(const QString& name) const;
 
 private:
-    void addDock(const QString& name, QWidget* content, Qt::DockWidgetArea area);
+    void addDock(const QString& name, const QString& title, QWidget* content,
+                 Qt::DockWidgetArea area);
 };

@@ -1,0 +1,176 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ar" sourcelanguage="en">
+<context>
+    <name>CodeWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;ملف</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>ت&amp;حرير</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;عرض</translation>
+    </message>
+    <message>
+        <source>&amp;Debug</source>
+        <translation>ت&amp;نقيح</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>إ&amp;نهاء</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>جديد</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>فتح</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>حفظ</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>تراجع</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>إعادة</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>بحث</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>تشغيل</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>إيقاف مؤقت</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>خطوة</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>إيقاف</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>المشروع</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <translation>المخطط</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>البحث</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>وحدة التحكم</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>المتغيرات</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>الخصائص</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ملف</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>تحرير</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>تنقيح</translation>
+    </message>
+</context>
+<context>
+    <name>EditorContent</name>
+    <message>
+        <source>Property</source>
+        <translation>الخاصية</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>القيمة</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>المتغير</translation>
+    </message>
+</context>
+<context>
+    <name>PlotWindow</name>
+    <message>
+        <source>Plot</source>
+        <translation>الرسم البياني</translation>
+    </message>
+    <message>
+        <source>Stations</source>
+        <translation>المحطات</translation>
+    </message>
+    <message>
+        <source>Readings</source>
+        <translation>القراءات</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>تحديث</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>حفظ الصورة</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>الوقت</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>المستوى</translation>
+    </message>
+    <message>
+        <source>Tide - Harbour</source>
+        <translation>المد والجزر - Harbour</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench</name>
+    <message>
+        <source>&amp;Window</source>
+        <translation>نا&amp;فذة</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>قياسي</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>تركيز</translation>
+    </message>
+    <message>
+        <source>Inspect</source>
+        <translation>فحص</translation>
+    </message>
+    <message>
+        <source>Side by Side</source>
+        <translation>جنبًا إلى جنب</translation>
+    </message>
+</context>
+</TS>

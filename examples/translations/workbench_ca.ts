@@ -1,0 +1,176 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ca" sourcelanguage="en">
+<context>
+    <name>CodeWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fitxer</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Edita</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Visualitza</translation>
+    </message>
+    <message>
+        <source>&amp;Debug</source>
+        <translation>De&amp;pura</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Surt</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nou</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Obre</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Desa</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Desfés</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Refés</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Cerca</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Executa</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Pas</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Atura</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>Projecte</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <translation>Esquema</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Cerca</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>Consola</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variables</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Propietats</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fitxer</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Edita</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>Depura</translation>
+    </message>
+</context>
+<context>
+    <name>EditorContent</name>
+    <message>
+        <source>Property</source>
+        <translation>Propietat</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+</context>
+<context>
+    <name>PlotWindow</name>
+    <message>
+        <source>Plot</source>
+        <translation>Gràfic</translation>
+    </message>
+    <message>
+        <source>Stations</source>
+        <translation>Estacions</translation>
+    </message>
+    <message>
+        <source>Readings</source>
+        <translation>Lectures</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Actualitza</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Desa la imatge</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Nivell</translation>
+    </message>
+    <message>
+        <source>Tide - Harbour</source>
+        <translation>Marea - Harbour</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench</name>
+    <message>
+        <source>&amp;Window</source>
+        <translation>Fi&amp;nestra</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Estàndard</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>Concentració</translation>
+    </message>
+    <message>
+        <source>Inspect</source>
+        <translation>Inspecció</translation>
+    </message>
+    <message>
+        <source>Side by Side</source>
+        <translation>De costat</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,176 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="el" sourcelanguage="en">
+<context>
+    <name>CodeWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Αρχείο</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Επεξεργασία</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Προβολή</translation>
+    </message>
+    <message>
+        <source>&amp;Debug</source>
+        <translation>Αποσφα&amp;λμάτωση</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>Έ&amp;ξοδος</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Νέο</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Άνοιγμα</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Αποθήκευση</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Αναίρεση</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Επανάληψη</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Εύρεση</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Εκτέλεση</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Παύση</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Βήμα</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Διακοπή</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>Έργο</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <translation>Διάρθρωση</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Αναζήτηση</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>Κονσόλα</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Μεταβλητές</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Ιδιότητες</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Αρχείο</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Επεξεργασία</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>Αποσφαλμάτωση</translation>
+    </message>
+</context>
+<context>
+    <name>EditorContent</name>
+    <message>
+        <source>Property</source>
+        <translation>Ιδιότητα</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Τιμή</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Μεταβλητή</translation>
+    </message>
+</context>
+<context>
+    <name>PlotWindow</name>
+    <message>
+        <source>Plot</source>
+        <translation>Διάγραμμα</translation>
+    </message>
+    <message>
+        <source>Stations</source>
+        <translation>Σταθμοί</translation>
+    </message>
+    <message>
+        <source>Readings</source>
+        <translation>Μετρήσεις</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Ανανέωση</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Αποθήκευση εικόνας</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Ώρα</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Στάθμη</translation>
+    </message>
+    <message>
+        <source>Tide - Harbour</source>
+        <translation>Παλίρροια - Harbour</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench</name>
+    <message>
+        <source>&amp;Window</source>
+        <translation>Παρά&amp;θυρο</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Τυπική</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>Συγκέντρωση</translation>
+    </message>
+    <message>
+        <source>Inspect</source>
+        <translation>Επιθεώρηση</translation>
+    </message>
+    <message>
+        <source>Side by Side</source>
+        <translation>Πλάι πλάι</translation>
+    </message>
+</context>
+</TS>

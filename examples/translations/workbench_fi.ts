@@ -1,0 +1,176 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fi" sourcelanguage="en">
+<context>
+    <name>CodeWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Tiedosto</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Muokkaa</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Näytä</translation>
+    </message>
+    <message>
+        <source>&amp;Debug</source>
+        <translation>&amp;Vianetsintä</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Lopeta</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Uusi</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Avaa</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Tallenna</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Kumoa</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Tee uudelleen</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Etsi</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Suorita</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Tauko</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Askel</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Pysäytä</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>Projekti</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <translation>Jäsennys</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Haku</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>Konsoli</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Muuttujat</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Ominaisuudet</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Tiedosto</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Muokkaa</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>Vianetsintä</translation>
+    </message>
+</context>
+<context>
+    <name>EditorContent</name>
+    <message>
+        <source>Property</source>
+        <translation>Ominaisuus</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Arvo</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Muuttuja</translation>
+    </message>
+</context>
+<context>
+    <name>PlotWindow</name>
+    <message>
+        <source>Plot</source>
+        <translation>Kuvaaja</translation>
+    </message>
+    <message>
+        <source>Stations</source>
+        <translation>Asemat</translation>
+    </message>
+    <message>
+        <source>Readings</source>
+        <translation>Lukemat</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Päivitä</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Tallenna kuva</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Aika</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Korkeus</translation>
+    </message>
+    <message>
+        <source>Tide - Harbour</source>
+        <translation>Vuorovesi - Harbour</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench</name>
+    <message>
+        <source>&amp;Window</source>
+        <translation>&amp;Ikkuna</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Vakio</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>Keskittyminen</translation>
+    </message>
+    <message>
+        <source>Inspect</source>
+        <translation>Tarkastelu</translation>
+    </message>
+    <message>
+        <source>Side by Side</source>
+        <translation>Vierekkäin</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,176 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="he" sourcelanguage="en">
+<context>
+    <name>CodeWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;קובץ</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;עריכה</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;תצוגה</translation>
+    </message>
+    <message>
+        <source>&amp;Debug</source>
+        <translation>&amp;ניפוי באגים</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>י&amp;ציאה</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>חדש</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>פתיחה</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>שמירה</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>ביטול פעולה</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>ביצוע חוזר</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>חיפוש</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>הפעלה</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>השהיה</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>צעד</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>עצירה</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>מיזם</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <translation>מתאר</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>חיפוש</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>מסוף</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>משתנים</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>מאפיינים</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>קובץ</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>עריכה</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>ניפוי באגים</translation>
+    </message>
+</context>
+<context>
+    <name>EditorContent</name>
+    <message>
+        <source>Property</source>
+        <translation>מאפיין</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>ערך</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>משתנה</translation>
+    </message>
+</context>
+<context>
+    <name>PlotWindow</name>
+    <message>
+        <source>Plot</source>
+        <translation>תרשים</translation>
+    </message>
+    <message>
+        <source>Stations</source>
+        <translation>תחנות</translation>
+    </message>
+    <message>
+        <source>Readings</source>
+        <translation>מדידות</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>רענון</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>שמירת תמונה</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>שעה</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>מפלס</translation>
+    </message>
+    <message>
+        <source>Tide - Harbour</source>
+        <translation>גאות - Harbour</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench</name>
+    <message>
+        <source>&amp;Window</source>
+        <translation>&amp;חלון</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>רגיל</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>ריכוז</translation>
+    </message>
+    <message>
+        <source>Inspect</source>
+        <translation>בדיקה</translation>
+    </message>
+    <message>
+        <source>Side by Side</source>
+        <translation>זה לצד זה</translation>
+    </message>
+</context>
+</TS>

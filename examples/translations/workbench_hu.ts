@@ -1,0 +1,176 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="hu" sourcelanguage="en">
+<context>
+    <name>CodeWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fájl</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Szerkesztés</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Nézet</translation>
+    </message>
+    <message>
+        <source>&amp;Debug</source>
+        <translation>&amp;Hibakeresés</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Kilépés</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Új</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Megnyitás</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Mentés</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Visszavonás</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Mégis</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Keresés</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Futtatás</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Szünet</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Lépés</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Leállítás</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>Projekt</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <translation>Vázlat</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Keresés</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>Konzol</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Változók</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Tulajdonságok</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fájl</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Szerkesztés</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>Hibakeresés</translation>
+    </message>
+</context>
+<context>
+    <name>EditorContent</name>
+    <message>
+        <source>Property</source>
+        <translation>Tulajdonság</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Érték</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Változó</translation>
+    </message>
+</context>
+<context>
+    <name>PlotWindow</name>
+    <message>
+        <source>Plot</source>
+        <translation>Grafikon</translation>
+    </message>
+    <message>
+        <source>Stations</source>
+        <translation>Állomások</translation>
+    </message>
+    <message>
+        <source>Readings</source>
+        <translation>Mérések</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Frissítés</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Kép mentése</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Idő</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Vízszint</translation>
+    </message>
+    <message>
+        <source>Tide - Harbour</source>
+        <translation>Árapály - Harbour</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench</name>
+    <message>
+        <source>&amp;Window</source>
+        <translation>&amp;Ablak</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Szokásos</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>Összpontosítás</translation>
+    </message>
+    <message>
+        <source>Inspect</source>
+        <translation>Vizsgálat</translation>
+    </message>
+    <message>
+        <source>Side by Side</source>
+        <translation>Egymás mellett</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,176 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="nb" sourcelanguage="en">
+<context>
+    <name>CodeWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fil</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Rediger</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Vis</translation>
+    </message>
+    <message>
+        <source>&amp;Debug</source>
+        <translation>Fe&amp;ilsøk</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Avslutt</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Ny</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Åpne</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Lagre</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Angre</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Gjør om</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Finn</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Kjør</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Steg</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>Prosjekt</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <translation>Disposisjon</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Søk</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>Konsoll</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variabler</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Egenskaper</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fil</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Rediger</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>Feilsøk</translation>
+    </message>
+</context>
+<context>
+    <name>EditorContent</name>
+    <message>
+        <source>Property</source>
+        <translation>Egenskap</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Verdi</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variabel</translation>
+    </message>
+</context>
+<context>
+    <name>PlotWindow</name>
+    <message>
+        <source>Plot</source>
+        <translation>Graf</translation>
+    </message>
+    <message>
+        <source>Stations</source>
+        <translation>Stasjoner</translation>
+    </message>
+    <message>
+        <source>Readings</source>
+        <translation>Målinger</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Last på nytt</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Lagre bilde</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Tid</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Vannstand</translation>
+    </message>
+    <message>
+        <source>Tide - Harbour</source>
+        <translation>Tidevann - Harbour</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench</name>
+    <message>
+        <source>&amp;Window</source>
+        <translation>Vin&amp;du</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>Fokus</translation>
+    </message>
+    <message>
+        <source>Inspect</source>
+        <translation>Undersøk</translation>
+    </message>
+    <message>
+        <source>Side by Side</source>
+        <translation>Side om side</translation>
+    </message>
+</context>
+</TS>

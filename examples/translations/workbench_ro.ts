@@ -1,0 +1,176 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ro" sourcelanguage="en">
+<context>
+    <name>CodeWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fișier</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editare</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Vizualizare</translation>
+    </message>
+    <message>
+        <source>&amp;Debug</source>
+        <translation>&amp;Depanare</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Ieșire</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nou</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Deschide</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salvează</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Anulează</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Refă</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Caută</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Rulează</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pauză</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Pas</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Oprește</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>Proiect</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <translation>Structură</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Căutare</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>Consolă</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variabile</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Proprietăți</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fișier</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Editare</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>Depanare</translation>
+    </message>
+</context>
+<context>
+    <name>EditorContent</name>
+    <message>
+        <source>Property</source>
+        <translation>Proprietate</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valoare</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variabilă</translation>
+    </message>
+</context>
+<context>
+    <name>PlotWindow</name>
+    <message>
+        <source>Plot</source>
+        <translation>Grafic</translation>
+    </message>
+    <message>
+        <source>Stations</source>
+        <translation>Stații</translation>
+    </message>
+    <message>
+        <source>Readings</source>
+        <translation>Măsurători</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Reîncarcă</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Salvează imaginea</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Ora</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Nivel</translation>
+    </message>
+    <message>
+        <source>Tide - Harbour</source>
+        <translation>Maree - Harbour</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench</name>
+    <message>
+        <source>&amp;Window</source>
+        <translation>Fe&amp;reastră</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>Concentrare</translation>
+    </message>
+    <message>
+        <source>Inspect</source>
+        <translation>Inspecție</translation>
+    </message>
+    <message>
+        <source>Side by Side</source>
+        <translation>Alăturat</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,176 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="sk" sourcelanguage="en">
+<context>
+    <name>CodeWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Súbor</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>Ú&amp;pravy</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Zobraziť</translation>
+    </message>
+    <message>
+        <source>&amp;Debug</source>
+        <translation>&amp;Ladiť</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>U&amp;končiť</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nový</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Otvoriť</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Uložiť</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Späť</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Znova</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Nájsť</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Spustiť</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pozastaviť</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Krok</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Zastaviť</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>Projekt</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <translation>Osnova</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Hľadanie</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>Konzola</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Premenné</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Vlastnosti</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Súbor</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Úpravy</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>Ladenie</translation>
+    </message>
+</context>
+<context>
+    <name>EditorContent</name>
+    <message>
+        <source>Property</source>
+        <translation>Vlastnosť</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Hodnota</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Premenná</translation>
+    </message>
+</context>
+<context>
+    <name>PlotWindow</name>
+    <message>
+        <source>Plot</source>
+        <translation>Graf</translation>
+    </message>
+    <message>
+        <source>Stations</source>
+        <translation>Stanice</translation>
+    </message>
+    <message>
+        <source>Readings</source>
+        <translation>Merania</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Obnoviť</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Uložiť obrázok</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Čas</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Hladina</translation>
+    </message>
+    <message>
+        <source>Tide - Harbour</source>
+        <translation>Príliv - Harbour</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench</name>
+    <message>
+        <source>&amp;Window</source>
+        <translation>&amp;Okno</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Štandardné</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>Sústredenie</translation>
+    </message>
+    <message>
+        <source>Inspect</source>
+        <translation>Prehliadka</translation>
+    </message>
+    <message>
+        <source>Side by Side</source>
+        <translation>Vedľa seba</translation>
+    </message>
+</context>
+</TS>

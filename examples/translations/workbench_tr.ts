@@ -1,0 +1,176 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="tr" sourcelanguage="en">
+<context>
+    <name>CodeWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Dosya</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>Dü&amp;zen</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Görünüm</translation>
+    </message>
+    <message>
+        <source>&amp;Debug</source>
+        <translation>&amp;Hata ayıkla</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Çık</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Yeni</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Aç</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Kaydet</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Geri al</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Yinele</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Bul</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Çalıştır</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Duraklat</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Adım</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Durdur</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>Proje</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <translation>Anahat</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Arama</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>Konsol</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Değişkenler</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Özellikler</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Dosya</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Düzen</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>Hata ayıkla</translation>
+    </message>
+</context>
+<context>
+    <name>EditorContent</name>
+    <message>
+        <source>Property</source>
+        <translation>Özellik</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Değer</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Değişken</translation>
+    </message>
+</context>
+<context>
+    <name>PlotWindow</name>
+    <message>
+        <source>Plot</source>
+        <translation>Grafik</translation>
+    </message>
+    <message>
+        <source>Stations</source>
+        <translation>İstasyonlar</translation>
+    </message>
+    <message>
+        <source>Readings</source>
+        <translation>Ölçümler</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Yenile</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Resmi kaydet</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Saat</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Seviye</translation>
+    </message>
+    <message>
+        <source>Tide - Harbour</source>
+        <translation>Gelgit - Harbour</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench</name>
+    <message>
+        <source>&amp;Window</source>
+        <translation>&amp;Pencere</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standart</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>Odak</translation>
+    </message>
+    <message>
+        <source>Inspect</source>
+        <translation>İnceleme</translation>
+    </message>
+    <message>
+        <source>Side by Side</source>
+        <translation>Yan yana</translation>
+    </message>
+</context>
+</TS>
