@@ -87,9 +87,7 @@ void Workbench::addStatus()
 void Workbench::showActive()
 {
     const QString view = m_manager.activeView();
-    const QString text = view.isEmpty()
-                             ? m_manager.activeGroup()
-                             : QStringLiteral("%1: %2").arg(m_manager.activeGroup(), view);
+    const QString text = view.isEmpty() ? m_manager.activeGroup() : view;
     const int width = 24 * m_active->fontMetrics().averageCharWidth();
     m_active->setText(m_active->fontMetrics().elidedText(text, Qt::ElideRight, width));
 }
