@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/NamedPartsWindow.h"
 #include "support/Text.h"
 
 #include <QDataStream>
-#include <QDockWidget>
 #include <QLabel>
-#include <QMainWindow>
 #include <QTextEdit>
-#include <QToolBar>
 
 namespace Panorel::Tests {
 
@@ -17,7 +15,7 @@ namespace Panorel::Tests {
  * "bottom", two more that can float as tabs, "one" and "two", and tool bars "Main" on top and
  * "Edit" at the left.
  */
-class FourSidesWindow : public QMainWindow
+class FourSidesWindow : public NamedPartsWindow
 {
 public:
     FourSidesWindow()
@@ -78,20 +76,9 @@ public:
 private:
     QDockWidget* dock(const QString& name)
     {
-        auto* result = new QDockWidget(name, this);
-        result->setObjectName(name);
         auto* content = new QLabel(name);
         content->setMinimumSize(30, 30);
-        result->setWidget(content);
-        return result;
-    }
-
-    QToolBar* bar(const QString& name)
-    {
-        auto* result = new QToolBar(name, this);
-        result->setObjectName(name);
-        result->addAction(name);
-        return result;
+        return NamedPartsWindow::dock(name, content);
     }
 };
 

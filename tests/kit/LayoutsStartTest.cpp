@@ -44,6 +44,16 @@ private:
     FourSidesWindow& m_window;
 };
 
+/** A run of a program with one window. */
+struct Run
+{
+    Run() { layouts.addWindow(window, "w"_s); }
+
+    Manager manager{{"G"_s}, /*mergeOnApply=*/true};
+    FourSidesWindow window;
+    Layouts layouts{manager};
+};
+
 } // namespace
 
 // Offscreen, and with a window manager under Xvfb.
@@ -83,22 +93,19 @@ void LayoutsStartTest::init()
 // Left and right are swapped, and the dock widget on the left is 234 pixels wide.
 void LayoutsStartTest::makeFile(void (QWidget::*show)())
 {
-    Manager manager({"G"_s}, /*mergeOnApply=*/true);
-    FourSidesWindow window;
-    Layouts layouts(manager);
-    layouts.addWindow(window, "w"_s);
-    window.resize(850, 650);
-    (window.*show)();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    layouts.start(file());
+    Run run;
+    run.window.resize(850, 650);
+    (run.window.*show)();
+    QVERIFY(QTest::qWaitForWindowExposed(&run.window));
+    run.layouts.start(file());
     if (show != &QWidget::show)
-        QTRY_VERIFY(window.width() != 850); // The desktop decides when.
+        QTRY_VERIFY(run.window.width() != 850); // The desktop decides when.
     QCoreApplication::processEvents();
-    window.rearrangeDocks();
-    window.resizeDocks({window.right}, {234}, Qt::Horizontal);
+    run.window.rearrangeDocks();
+    run.window.resizeDocks({run.window.right}, {234}, Qt::Horizontal);
     QCoreApplication::processEvents();
-    m_rightWidth = window.right->width();
-    m_windowSize = window.size();
+    m_rightWidth = run.window.right->width();
+    m_windowSize = run.window.size();
     QCOMPARE(m_rightWidth, 234);
 }
 
@@ -150,58 +157,46 @@ void LayoutsStartTest::sizesComeBack()
     else if (state == Qt::WindowFullScreen)
         show = &QWidget::showFullScreen;
     makeFile(show);
-    Manager manager({"G"_s}, /*mergeOnApply=*/true);
-    FourSidesWindow window;
-    Layouts layouts(manager);
-    layouts.addWindow(window, "w"_s);
-    layouts.start(file());
-    window.show();
-    QTRY_COMPARE(window.size(), m_windowSize);
-    QTRY_COMPARE(window.right->width(), m_rightWidth);
-    QCOMPARE(int(window.windowState() & ~Qt::WindowActive), state);
+    Run run;
+    run.layouts.start(file());
+    run.window.show();
+    QTRY_COMPARE(run.window.size(), m_windowSize);
+    QTRY_COMPARE(run.window.right->width(), m_rightWidth);
+    QCOMPARE(int(run.window.windowState() & ~Qt::WindowActive), state);
 }
 
 // Such as one that the desktop maximises late.
 void LayoutsStartTest::aWindowThatGrowsAfterItHasAppeared()
 {
     {
-        Manager manager({"G"_s}, /*mergeOnApply=*/true);
-        FourSidesWindow window;
-        Layouts layouts(manager);
-        layouts.addWindow(window, "w"_s);
-        window.resize(790, 600);
-        window.show();
-        layouts.start(file());
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        window.resizeDocks({window.right}, {400}, Qt::Horizontal);
-        QTRY_COMPARE(window.right->width(), 400);
+        Run run;
+        run.window.resize(790, 600);
+        run.window.show();
+        run.layouts.start(file());
+        QVERIFY(QTest::qWaitForWindowExposed(&run.window));
+        run.window.resizeDocks({run.window.right}, {400}, Qt::Horizontal);
+        QTRY_COMPARE(run.window.right->width(), 400);
     }
-    Manager manager({"G"_s}, /*mergeOnApply=*/true);
-    FourSidesWindow window;
-    Layouts layouts(manager);
-    layouts.addWindow(window, "w"_s);
-    layouts.start(file());
-    window.resize(420, 400);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    Run run;
+    run.layouts.start(file());
+    run.window.resize(420, 400);
+    run.window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&run.window));
     QCoreApplication::processEvents();
-    window.resize(790, 600);
-    QTRY_COMPARE(window.right->width(), 400);
+    run.window.resize(790, 600);
+    QTRY_COMPARE(run.window.right->width(), 400);
 }
 
 void LayoutsStartTest::aWindowThatIsShownLate()
 {
     makeFile();
-    Manager manager({"G"_s}, /*mergeOnApply=*/true);
-    FourSidesWindow window;
-    Layouts layouts(manager);
-    layouts.addWindow(window, "w"_s);
-    layouts.start(file());
+    Run run;
+    run.layouts.start(file());
     for (int i = 0; i < 10; ++i)
         QCoreApplication::processEvents();
-    QVERIFY(layouts.save());
-    window.show();
-    QTRY_COMPARE(window.right->width(), m_rightWidth);
+    QVERIFY(run.layouts.save());
+    run.window.show();
+    QTRY_COMPARE(run.window.right->width(), m_rightWidth);
 }
 
 void LayoutsStartTest::aWindowThatIsNeverShown()
@@ -221,28 +216,22 @@ void LayoutsStartTest::aWindowThatIsNeverShown()
             shown.rearrangeDocks();
         QCOMPARE(shown.dockWidgetArea(shown.right), Qt::LeftDockWidgetArea);
     }
-    Manager manager({"G"_s}, /*mergeOnApply=*/true);
-    FourSidesWindow window;
-    Layouts layouts(manager);
-    layouts.addWindow(window, "w"_s);
-    layouts.start(file());
-    window.show();
-    QTRY_COMPARE(window.right->width(), m_rightWidth);
+    Run run;
+    run.layouts.start(file());
+    run.window.show();
+    QTRY_COMPARE(run.window.right->width(), m_rightWidth);
 }
 
 void LayoutsStartTest::aWindowThatStartsAsAnIcon()
 {
     makeFile();
-    Manager manager({"G"_s}, /*mergeOnApply=*/true);
-    FourSidesWindow window;
-    Layouts layouts(manager);
-    layouts.addWindow(window, "w"_s);
-    window.showMinimized();
-    layouts.start(file());
+    Run run;
+    run.window.showMinimized();
+    run.layouts.start(file());
     QCoreApplication::processEvents();
-    QVERIFY(layouts.save());
-    window.showNormal();
-    QTRY_COMPARE(window.right->width(), m_rightWidth);
+    QVERIFY(run.layouts.save());
+    run.window.showNormal();
+    QTRY_COMPARE(run.window.right->width(), m_rightWidth);
 }
 
 void LayoutsStartTest::aWindowThatIsAddedLater()
@@ -266,52 +255,40 @@ void LayoutsStartTest::aWindowThatIsAddedLater()
 void LayoutsStartTest::theFirstPictureIsTheLayout()
 {
     makeFile();
-    Manager manager({"G"_s}, /*mergeOnApply=*/true);
-    FourSidesWindow window;
-    const PaintLog log(window);
-    Layouts layouts(manager);
-    layouts.addWindow(window, "w"_s);
-    window.show();
-    layouts.start(file());
+    Run run;
+    const PaintLog log(run.window);
+    run.window.show();
+    run.layouts.start(file());
     QTRY_VERIFY(!log.areas.isEmpty());
-    QTRY_COMPARE(window.right->width(), m_rightWidth);
+    QTRY_COMPARE(run.window.right->width(), m_rightWidth);
     QCOMPARE(log.areas.count(Qt::LeftDockWidgetArea), 0);
 }
 
 void LayoutsStartTest::whatIsRearrangedAtOnceStays()
 {
     makeFile();
-    Manager manager({"G"_s}, /*mergeOnApply=*/true);
-    FourSidesWindow window;
-    Layouts layouts(manager);
-    layouts.addWindow(window, "w"_s);
-    layouts.start(file());
-    window.addDockWidget(Qt::BottomDockWidgetArea, window.left);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    Run run;
+    run.layouts.start(file());
+    run.window.addDockWidget(Qt::BottomDockWidgetArea, run.window.left);
+    run.window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&run.window));
     QCoreApplication::processEvents();
-    QCOMPARE(window.dockWidgetArea(window.left), Qt::BottomDockWidgetArea);
+    QCOMPARE(run.window.dockWidgetArea(run.window.left), Qt::BottomDockWidgetArea);
 }
 
 void LayoutsStartTest::aPlaceOffTheScreens()
 {
     {
-        Manager manager({"G"_s}, /*mergeOnApply=*/true);
-        FourSidesWindow window;
-        Layouts layouts(manager);
-        layouts.addWindow(window, "w"_s);
-        layouts.start(file());
-        window.setGeometry(20000, 20000, 800, 600);
-        QVERIFY(layouts.save());
+        Run run;
+        run.layouts.start(file());
+        run.window.setGeometry(20000, 20000, 800, 600);
+        QVERIFY(run.layouts.save());
     }
-    Manager manager({"G"_s}, /*mergeOnApply=*/true);
-    FourSidesWindow window;
-    Layouts layouts(manager);
-    layouts.addWindow(window, "w"_s);
-    layouts.start(file());
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QVERIFY(QGuiApplication::primaryScreen()->geometry().intersects(window.geometry()));
+    Run run;
+    run.layouts.start(file());
+    run.window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&run.window));
+    QVERIFY(QGuiApplication::primaryScreen()->geometry().intersects(run.window.geometry()));
 }
 
 QTEST_MAIN(LayoutsStartTest)

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/NamedPartsWindow.h"
 #include "support/Text.h"
 
-#include <QDockWidget>
 #include <QList>
-#include <QMainWindow>
 #include <QTextEdit>
-#include <QToolBar>
 
 namespace Panorel::Tests {
 
@@ -16,7 +14,7 @@ namespace Panorel::Tests {
  * right: "Properties"; bottom: "Output"; floating: "Palette". Tool bars on top: "Main" and "Edit"
  * in the first line, "View" in the second.
  */
-class SampleWindow : public QMainWindow
+class SampleWindow : public NamedPartsWindow
 {
 public:
     SampleWindow()
@@ -59,21 +57,7 @@ public:
     }
 
 private:
-    QDockWidget* dock(const QString& name)
-    {
-        auto* result = new QDockWidget(name, this);
-        result->setObjectName(name);
-        result->setWidget(new QTextEdit);
-        return result;
-    }
-
-    QToolBar* bar(const QString& name)
-    {
-        auto* result = new QToolBar(name, this);
-        result->setObjectName(name);
-        result->addAction(name);
-        return result;
-    }
+    QDockWidget* dock(const QString& name) { return NamedPartsWindow::dock(name, new QTextEdit); }
 
     void addDocks()
     {
