@@ -12,6 +12,7 @@
 #include <memory>
 
 class QAction;
+class QDialog;
 class QDockWidget;
 class QMainWindow;
 class QMenu;
@@ -109,6 +110,18 @@ public:
     /** Makes a tool button in the same way: a Panorel::ViewButton whose tool tip names the active
         layout. */
     QToolButton* createButton(QWidget* parent);
+
+    /**
+     * Makes the dialog "Layouts": all layouts of all groups with a picture of each, to switch to,
+     * rename, drag into another order or group, duplicate and delete, to export some of them and to
+     * import chosen ones of a file. It says what differs from the windows, shows changes from
+     * elsewhere, and each of its own can be undone. What is done is told by message() too.
+     *
+     * It is not shown yet and need not be modal. Any number can be made; each may outlive this
+     * object and the Manager, closes without one of them, and is disabled then.
+     * @param parent deletes the dialog; may be null.
+     */
+    QDialog* createDialog(QWidget* parent);
 
     /**
      * Nine actions, each of which activates the layout that the user has given its slot, also one

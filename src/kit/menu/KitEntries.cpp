@@ -3,6 +3,7 @@
 
 #include "GroupMenu.h"
 
+#include "../dialog/LayoutsDialog.h"
 #include "../window/Session.h"
 
 #include <panorel/Manager.h>
@@ -22,9 +23,15 @@ KitEntries::KitEntries(Menu& menu, Layouts& layouts, Session& session)
     addUndoAndRedo();
     menu.addSeparator();
     addActions();
+    addDialog(layouts);
     // The menu itself goes on without the kit.
     connect(&layouts, &QObject::destroyed, this, &KitEntries::disable);
     menu.setToolTipsVisible(true);
+}
+
+KitEntries::~KitEntries()
+{
+    delete m_dialog;
 }
 
 void KitEntries::add(QAction* entry)
@@ -55,6 +62,28 @@ void KitEntries::addActions()
     add(m_session.actions.previous);
     add(m_session.actions.shortcuts);
     add(m_session.actions.lock);
+}
+
+void KitEntries::addDialog(Layouts& layouts)
+{
+    auto* entry = new QAction(tr("&Manage Layouts..."), &m_menu);
+    connect(entry, &QAction::triggered, this, [this, &layouts] { openDialog(layouts); });
+    m_menu.addSeparator();
+    add(entry);
+}
+
+// One for a window, whose child it is, not the menu's, which is a window of its own.
+void KitEntries::openDialog(Layouts& layouts)
+{
+    QWidget* const window = m_menu.parentWidget() ? m_menu.parentWidget()->window() : nullptr;
+    QDialog* dialog = window ? LayoutsDialog::find(*window, m_session) : m_dialog.data();
+    if (!dialog) {
+        dialog = layouts.createDialog(window);
+        m_dialog = window ? nullptr : dialog;
+    }
+    dialog->show();
+    dialog->raise();
+    dialog->activateWindow();
 }
 
 void KitEntries::disable()

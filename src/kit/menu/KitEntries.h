@@ -5,6 +5,8 @@
 #include <QObject>
 #include <QPointer>
 
+class QDialog;
+
 namespace Panorel {
 class Menu;
 } // namespace Panorel
@@ -28,6 +30,7 @@ public:
      * @param menu owns this object and the entries.
      */
     KitEntries(Menu& menu, Layouts& layouts, Session& session);
+    ~KitEntries() override;
 
 private:
     /** @param entry may be the menu's or anybody's. */
@@ -35,12 +38,16 @@ private:
     void addGroups();
     void addUndoAndRedo();
     void addActions();
+    void addDialog(Layouts& layouts);
+    void openDialog(Layouts& layouts);
     void disable();
 
     Menu& m_menu;
     Session& m_session;
     /** Without its Manager the menu deletes them. */
     QList<QPointer<QAction>> m_entries;
+    /** Of a menu without a window. */
+    QPointer<QDialog> m_dialog;
 };
 
 } // namespace Panorel::Kit::Detail

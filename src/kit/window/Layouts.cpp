@@ -5,6 +5,7 @@
 #include "Doctor.h"
 #include "Session.h"
 
+#include "../dialog/LayoutsDialog.h"
 #include "../menu/MenuFactory.h"
 
 #include <panorel/Manager.h>
@@ -90,6 +91,18 @@ QToolButton* Layouts::createButton(QWidget* parent)
     auto* button = new QToolButton(parent);
     button->setEnabled(false);
     return button;
+}
+
+QDialog* Layouts::createDialog(QWidget* parent)
+{
+    if (!m_session) {
+        auto* dialog = new QDialog(parent);
+        dialog->setEnabled(false);
+        return dialog;
+    }
+    auto* dialog = new Detail::LayoutsDialog(*m_session, parent);
+    connect(dialog, &Detail::LayoutsDialog::message, this, &Layouts::message);
+    return dialog;
 }
 
 QList<QAction*> Layouts::slotActions() const

@@ -57,14 +57,6 @@ bool same(const Snapshot::View* a, const Snapshot::View* b)
     return a && b ? *a == *b : a == b;
 }
 
-QString freeName(const Snapshot::Group& group, const QString& wanted)
-{
-    QString name = wanted;
-    for (int number = 2; group.find(name); ++number)
-        name = QStringLiteral("%1 (%2)").arg(wanted).arg(number);
-    return name;
-}
-
 void remove(Snapshot::Group& group, const QString& name)
 {
     group.views.erase(std::remove_if(group.views.begin(), group.views.end(),
@@ -78,7 +70,7 @@ void takeOver(Snapshot::Group& result, const Snapshot::View* ours, Snapshot::Vie
 {
     theirs.isActive = ours && ours->isActive && !oursChanged;
     if (oursChanged)
-        theirs.name = freeName(result, theirs.name);
+        theirs.name = result.freeName(theirs.name);
     for (Snapshot::View& view : result.views) {
         if (view.name == theirs.name) {
             view = theirs;
@@ -113,6 +105,14 @@ const Snapshot::View* Snapshot::Group::find(const QString& view) const
             return &known;
     }
     return nullptr;
+}
+
+QString Snapshot::Group::freeName(const QString& wanted) const
+{
+    QString result = wanted;
+    for (int number = 2; find(result); ++number)
+        result = QStringLiteral("%1 (%2)").arg(wanted).arg(number);
+    return result;
 }
 
 Snapshot Snapshot::fromXml(const QByteArray& document)

@@ -28,6 +28,8 @@ struct Snapshot
 
         /** Null if there is none of this name. */
         const View* find(const QString& view) const;
+        /** @p wanted, or with a number after it if it is taken. */
+        QString freeName(const QString& wanted) const;
     };
 
     QString version;

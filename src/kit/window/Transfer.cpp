@@ -2,13 +2,13 @@
 #include "Transfer.h"
 
 #include <panorel/Manager.h>
-#include <panorel/kit/LayoutDocument.h>
 #include <panorel/kit/LayoutFile.h>
 
 #include <QFileInfo>
 #include <QSaveFile>
 
 #include <algorithm>
+#include <utility>
 
 namespace Panorel::Kit::Detail {
 
@@ -20,47 +20,76 @@ Transfer::~Transfer() = default;
 
 QString Transfer::exportTo(const QString& fileName)
 {
+    const QString problem = write(fileName, m_manager.toXml(/*markActive=*/false));
+    if (problem.isNull())
+        Q_EMIT message(tr("Exported the layouts to \"%1\".").arg(QFileInfo(fileName).fileName()));
+    return problem;
+}
+
+QString Transfer::write(const QString& fileName, const QByteArray& document)
+{
     const QFileInfo info(fileName);
     const QString name = info.fileName();
     // Writing to a pipe or a device may never end, and nothing can be put in its place.
     if (info.exists() && !info.isFile())
         return tr("\"%1\" is not a file.").arg(name);
     QSaveFile file(fileName);
-    const QByteArray document = m_manager.toXml(/*markActive=*/false);
     if (!file.open(QIODevice::WriteOnly) || file.write(document) != document.size() ||
         !file.commit())
         return tr("\"%1\" cannot be written: %2").arg(name, file.errorString());
-    Q_EMIT message(tr("Exported the layouts to \"%1\".").arg(name));
     return QString();
+}
+
+Transfer::Content Transfer::read(const QString& fileName) const
+{
+    Content content;
+    content.name = QFileInfo(fileName).fileName();
+    const LayoutFile file = LayoutFile::read(fileName);
+    if (file.kind() != LayoutFile::Kind::Document) {
+        const QString reason = file.error().isEmpty() ? tr("it holds no layouts") : file.error();
+        content.problem = tr("\"%1\" was not imported: %2").arg(content.name, reason);
+        return content;
+    }
+    content.document = LayoutDocument(file.bytes());
+    check(content);
+    return content;
+}
+
+void Transfer::check(Content& content) const
+{
+    LayoutDocument::TidyOptions options;
+    options.dropsUnsound = true;
+    if (const auto error = content.document.tidy(options, &content.dropped))
+        content.problem = tr("\"%1\" was not imported: %2").arg(content.name, error.text);
+    else if (!hasViews(content.document))
+        content.problem = tr("\"%1\" has no layouts for this program.").arg(content.name);
 }
 
 QString Transfer::importFrom(const QString& fileName, Mode mode)
 {
-    const QString name = QFileInfo(fileName).fileName();
-    const LayoutFile file = LayoutFile::read(fileName);
-    if (file.kind() != LayoutFile::Kind::Document) {
-        const QString reason = file.error().isEmpty() ? tr("it holds no layouts") : file.error();
-        return tr("\"%1\" was not imported: %2").arg(name, reason);
-    }
-    return importDocument(LayoutDocument(file.bytes()), name, mode);
+    return take(read(fileName), mode);
 }
 
 QString Transfer::importDocument(LayoutDocument document, const QString& name, Mode mode)
 {
-    QVector<Problem> dropped;
-    LayoutDocument::TidyOptions options;
-    options.dropsUnsound = true;
-    if (const auto error = document.tidy(options, &dropped))
-        return tr("\"%1\" was not imported: %2").arg(name, error.text);
-    if (!hasViews(document))
-        return tr("\"%1\" has no layouts for this program.").arg(name);
-    Q_EMIT importing(name);
-    if (!m_manager.fromXml(document.bytes(), mode == Mode::Add))
-        return tr("\"%1\" cannot be read.").arg(name);
-    const QString text = dropped.isEmpty()
+    Content content;
+    content.name = name;
+    content.document = std::move(document);
+    check(content);
+    return take(content, mode);
+}
+
+QString Transfer::take(const Content& content, Mode mode)
+{
+    if (!content.problem.isNull())
+        return content.problem;
+    Q_EMIT importing(content.name);
+    if (!m_manager.fromXml(content.document.bytes(), mode == Mode::Add))
+        return tr("\"%1\" cannot be read.").arg(content.name);
+    const QString text = content.dropped.isEmpty()
                              ? tr("Imported the layouts of \"%1\".")
                              : tr("Imported the layouts of \"%1\"; damaged parts were left out.");
-    Q_EMIT message(text.arg(name));
+    Q_EMIT message(text.arg(content.name));
     return QString();
 }
 

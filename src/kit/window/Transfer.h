@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <panorel/kit/LayoutDocument.h>
+
 #include <QObject>
 #include <QString>
+#include <QVector>
 
 namespace Panorel {
 class Manager;
 } // namespace Panorel
-
-namespace Panorel::Kit {
-class LayoutDocument;
-} // namespace Panorel::Kit
 
 namespace Panorel::Kit::Detail {
 
@@ -32,6 +31,24 @@ public:
         Add
     };
 
+    /** What can be taken of a file. */
+    struct Content
+    {
+        /** The name of the file for messages. */
+        QString name;
+        /** The layouts, without parts that are not sound. */
+        LayoutDocument document;
+        /** Why parts were left out. */
+        QVector<Problem> dropped;
+        /** Why nothing can be taken, in words; null if something can. */
+        QString problem;
+    };
+    /** Reads a file with layouts; nothing is changed. */
+    Content read(const QString& fileName) const;
+    /** Writes @p document. An existing file is replaced whole or stays as it is. @return why it
+        failed, in words; null if it did not. */
+    static QString write(const QString& fileName, const QByteArray& document);
+
     /** Writes all layouts. An existing file is replaced whole or stays as it is. @return why it
         failed, in words; null if it did not. */
     QString exportTo(const QString& fileName);
@@ -49,6 +66,8 @@ Q_SIGNALS:
     void message(const QString& text);
 
 private:
+    void check(Content& content) const;
+    QString take(const Content& content, Mode mode);
     bool hasViews(const LayoutDocument& document) const;
 
     Manager& m_manager;
