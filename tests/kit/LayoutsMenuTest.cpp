@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "support/MenuReading.h"
+#include "support/Text.h"
+#include "ui/Hands.h"
+
 #include <panorel/Manager.h>
 #include <panorel/Menu.h>
 #include <panorel/ViewButton.h>
@@ -14,6 +18,7 @@
 #include <QTest>
 
 using namespace Panorel;
+using namespace Panorel::Tests;
 
 namespace {
 
@@ -22,13 +27,13 @@ class Fixture
 {
 public:
     Fixture()
-        : manager({QStringLiteral("Editing")}, /*mergeOnApply=*/false)
+        : manager({"Editing"_s}, /*mergeOnApply=*/false)
         , layouts(manager)
         , messages(&layouts, &Kit::Layouts::message)
     {
         window.setCentralWidget(new QPlainTextEdit);
         auto* dock = new QDockWidget(&window);
-        dock->setObjectName(QStringLiteral("dock"));
+        dock->setObjectName("dock"_s);
         window.addDockWidget(Qt::LeftDockWidgetArea, dock);
         layouts.addWindow(window);
         menu = layouts.createMenu(&window);
@@ -41,31 +46,14 @@ public:
         isReady = QTest::qWaitForWindowActive(&window);
     }
 
-    /** Presses a key where a user's key would go: in the open menu, or else in the window. */
     static void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
-        QTest::keyClick(receiver(), key, modifiers);
+        Hands::press(key, modifiers);
         QCoreApplication::processEvents();
     }
 
-    static void type(const char* characters)
-    {
-        for (; *characters; ++characters)
-            QTest::keyClick(receiver(), *characters);
-    }
-
-    QMenu* subMenu(int index) const
-    {
-        QList<QMenu*> found;
-        const QList<QAction*> actions = menu->actions();
-        for (const QAction* action : actions) {
-            if (action->menu())
-                found.append(action->menu());
-        }
-        return found.value(index);
-    }
-    QMenu* saveAs() const { return subMenu(0); }
-    QMenu* deletion() const { return subMenu(1); }
+    QMenu* saveAs() const { return saveAsMenu(*menu); }
+    QMenu* deletion() const { return deleteMenu(*menu); }
 
     /** Opens the menu by its key and goes down and right into a sub-menu. */
     void open(QMenu* sub)
@@ -83,15 +71,6 @@ public:
     QSignalSpy messages;
     QMenu* menu = nullptr;
     bool isReady = false;
-
-private:
-    static QWidget* receiver()
-    {
-        if (QWidget* popup = QApplication::activePopupWidget())
-            return popup->focusWidget() ? popup->focusWidget() : popup;
-        return QApplication::focusWidget() ? QApplication::focusWidget()
-                                           : QApplication::activeWindow();
-    }
 };
 
 QStringList textsOf(const QMenu& menu)
@@ -128,15 +107,13 @@ void LayoutsMenuTest::menuHasItsEntries()
 {
     Fixture f;
     QVERIFY(qobject_cast<Menu*>(f.menu));
-    QCOMPARE(f.menu->title(), QStringLiteral("&Layouts"));
-    QCOMPARE(
-        textsOf(*f.menu).mid(0, 9),
-        (QStringList{QString(), QStringLiteral("Save Current Layout As..."),
-                     QStringLiteral("Delete Layout..."), QString(), QStringLiteral("Export ..."),
-                     QStringLiteral("Import ..."), QStringLiteral("Import && Merge ..."), QString(),
-                     QStringLiteral("Reset Layout to Program Start")}));
-    f.manager.saveCurrentViewAs(QStringLiteral("Wide"));
-    QCOMPARE(f.menu->actions().constFirst()->text(), QStringLiteral("Wide"));
+    QCOMPARE(f.menu->title(), "&Layouts"_s);
+    QCOMPARE(textsOf(*f.menu).mid(0, 9),
+             (QStringList{QString(), "Save Current Layout As..."_s, "Delete Layout..."_s, QString(),
+                          "Export ..."_s, "Import ..."_s, "Import && Merge ..."_s, QString(),
+                          "Reset Layout to Program Start"_s}));
+    f.manager.saveCurrentViewAs("Wide"_s);
+    QCOMPARE(f.menu->actions().constFirst()->text(), "Wide"_s);
     QVERIFY(f.menu->actions().constFirst()->isChecked());
 }
 
@@ -147,11 +124,11 @@ void LayoutsMenuTest::nameFieldIsReadyForTyping()
     f.open(f.saveAs());
     auto* edit = qobject_cast<QLineEdit*>(f.saveAs()->focusWidget());
     QVERIFY(edit);
-    QCOMPARE(edit->accessibleName(), QStringLiteral("Name of the new layout"));
-    f.type("Wide");
-    QCOMPARE(edit->text(), QStringLiteral("Wide"));
+    QCOMPARE(edit->accessibleName(), "Name of the new layout"_s);
+    Hands::type("Wide"_s);
+    QCOMPARE(edit->text(), "Wide"_s);
     f.press(Qt::Key_Return);
-    QCOMPARE(f.manager.views(), QStringList{QStringLiteral("Wide")});
+    QCOMPARE(f.manager.views(), QStringList{"Wide"_s});
 }
 
 void LayoutsMenuTest::nameFieldIsWideEnoughAfterEachChange()
@@ -164,7 +141,7 @@ void LayoutsMenuTest::nameFieldIsWideEnoughAfterEachChange()
         const int needed = edit->fontMetrics().horizontalAdvance(edit->placeholderText());
         QVERIFY(needed > 0);
         QVERIFY2(edit->visibleRegion().boundingRect().width() > needed, name);
-        f.type(name);
+        Hands::type(QString::fromLatin1(name));
         f.press(Qt::Key_Return);
     }
     QCOMPARE(f.manager.views().size(), 3);
@@ -174,7 +151,7 @@ void LayoutsMenuTest::emptyNameIsRefused()
 {
     Fixture f;
     f.open(f.saveAs());
-    f.type("  ");
+    Hands::type("  "_s);
     f.press(Qt::Key_Return);
     QCOMPARE(f.manager.views(), QStringList());
     QCOMPARE(f.messages.count(), 1);
@@ -185,7 +162,7 @@ void LayoutsMenuTest::keyboardLeavesTheMenuBar()
 {
     Fixture f;
     f.open(f.saveAs());
-    f.type("Wide");
+    Hands::type("Wide"_s);
     f.press(Qt::Key_Return);
     QTRY_COMPARE(QApplication::focusWidget(), f.window.centralWidget());
 }
@@ -193,11 +170,11 @@ void LayoutsMenuTest::keyboardLeavesTheMenuBar()
 void LayoutsMenuTest::ampersandsAreShown()
 {
     Fixture f;
-    const QString name = QStringLiteral("Cut & Paste");
+    const QString name = "Cut & Paste"_s;
     f.manager.saveCurrentViewAs(name);
     f.open(f.deletion());
-    QCOMPARE(f.menu->actions().constFirst()->text(), QStringLiteral("Cut && Paste"));
-    QCOMPARE(f.deletion()->actions().constFirst()->text(), QStringLiteral("Cut && Paste"));
+    QCOMPARE(f.menu->actions().constFirst()->text(), "Cut && Paste"_s);
+    QCOMPARE(f.deletion()->actions().constFirst()->text(), "Cut && Paste"_s);
     f.press(Qt::Key_Return);
     QCOMPARE(f.manager.views(), QStringList());
 
@@ -211,18 +188,17 @@ void LayoutsMenuTest::ampersandsAreShown()
 void LayoutsMenuTest::desktopsAmpersandsDoNotChangeNames()
 {
     Fixture f;
-    f.manager.saveCurrentViewAs(QStringLiteral("Drawing"));
-    f.manager.saveCurrentViewAs(QStringLiteral("Writing"));
+    f.manager.saveCurrentViewAs("Drawing"_s);
+    f.manager.saveCurrentViewAs("Writing"_s);
     // As a desktop does when a menu is shown.
     QAction* save = f.saveAs()->actions().at(1);
-    save->setText(QStringLiteral("&Drawing"));
+    save->setText("&Drawing"_s);
     save->trigger();
-    QCOMPARE(f.manager.views(),
-             (QStringList{QStringLiteral("Drawing"), QStringLiteral("Writing")}));
+    QCOMPARE(f.manager.views(), (QStringList{"Drawing"_s, "Writing"_s}));
     QAction* deletion = f.deletion()->actions().at(1);
-    deletion->setText(QStringLiteral("&Writing"));
+    deletion->setText("&Writing"_s);
     deletion->trigger();
-    QCOMPARE(f.manager.views(), QStringList{QStringLiteral("Drawing")});
+    QCOMPARE(f.manager.views(), QStringList{"Drawing"_s});
 }
 
 void LayoutsMenuTest::manyLayoutsScroll()
@@ -241,22 +217,22 @@ void LayoutsMenuTest::buttonDescribesItself()
     Fixture f;
     QToolButton* button = f.layouts.createButton(&f.window);
     QVERIFY(qobject_cast<ViewButton*>(button));
-    QVERIFY(button->accessibleDescription().startsWith(QStringLiteral("No layout is active.")));
-    f.manager.saveCurrentViewAs(QStringLiteral("<b>&"));
-    QVERIFY(button->accessibleDescription().startsWith(QStringLiteral("\"<b>&\" is active.")));
-    QVERIFY(button->toolTip().contains(QStringLiteral("&lt;b&gt;&amp;")));
+    QVERIFY(button->accessibleDescription().startsWith("No layout is active."_s));
+    f.manager.saveCurrentViewAs("<b>&"_s);
+    QVERIFY(button->accessibleDescription().startsWith("\"<b>&\" is active."_s));
+    QVERIFY(button->toolTip().contains("&lt;b&gt;&amp;"_s));
 }
 
 void LayoutsMenuTest::managerMayGoFirst()
 {
     QMainWindow window;
-    auto manager = std::make_unique<Manager>(QStringList{QStringLiteral("Editing")}, false);
+    auto manager = std::make_unique<Manager>(QStringList{"Editing"_s}, false);
     auto layouts = std::make_unique<Kit::Layouts>(*manager);
     layouts->addWindow(window);
     QMenu* menu = layouts->createMenu(&window);
     QToolButton* button = layouts->createButton(&window);
-    manager->saveCurrentViewAs(QStringLiteral("A"));
-    manager->createView(QStringLiteral("B"));
+    manager->saveCurrentViewAs("A"_s);
+    manager->createView("B"_s);
     manager.reset();
     const QList<QAction*> actions = menu->actions();
     for (QAction* action : actions)
@@ -269,16 +245,16 @@ void LayoutsMenuTest::managerMayGoFirst()
 void LayoutsMenuTest::layoutsMayGoFirst()
 {
     QMainWindow window;
-    Manager manager({QStringLiteral("Editing")}, false);
+    Manager manager({"Editing"_s}, false);
     auto layouts = std::make_unique<Kit::Layouts>(manager);
     layouts->addWindow(window);
     QMenu* menu = layouts->createMenu(&window);
     layouts->createButton(&window);
     layouts.reset();
-    manager.saveCurrentViewAs(QStringLiteral("A"));
-    QCOMPARE(menu->actions().constFirst()->text(), QStringLiteral("A"));
+    manager.saveCurrentViewAs("A"_s);
+    QCOMPARE(menu->actions().constFirst()->text(), "A"_s);
     menu->actions().constFirst()->trigger();
-    QCOMPARE(manager.activeView(), QStringLiteral("A"));
+    QCOMPARE(manager.activeView(), "A"_s);
 }
 
 QTEST_MAIN(LayoutsMenuTest)
