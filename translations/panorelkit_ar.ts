@@ -28,6 +28,37 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::DetailsPane</name>
+    <message>
+        <source>&amp;What differs from the windows now:</source>
+        <translation>ال&amp;اختلافات عن النوافذ الحالية:</translation>
+    </message>
+    <message>
+        <source>Sho&amp;rtcut slot:</source>
+        <translation>&amp;موضع الاختصار:</translation>
+    </message>
+    <message>
+        <source>What differs from the windows now</source>
+        <translation>الاختلافات عن النوافذ الحالية</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot;</source>
+        <translation>صورة &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Nothing. The windows look like this layout.</source>
+        <translation>لا شيء. النوافذ مطابقة لهذا التخطيط.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>بلا</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -47,6 +78,92 @@
     <message>
         <source>&amp;Group</source>
         <translation>&amp;مجموعة</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportDialog</name>
+    <message>
+        <source>Yours of the same name:</source>
+        <translation>تخطيطك بالاسم نفسه:</translation>
+    </message>
+    <message>
+        <source>The name is taken</source>
+        <translation>الاسم مستخدم</translation>
+    </message>
+    <message>
+        <source>Import Layouts</source>
+        <translation>استيراد تخطيطات</translation>
+    </message>
+    <message>
+        <source>&amp;Layouts in &quot;%1&quot;:</source>
+        <translation>ال&amp;تخطيطات في &quot;%1&quot;:</translation>
+    </message>
+    <message>
+        <source>Layouts of the file</source>
+        <translation>تخطيطات الملف</translation>
+    </message>
+    <message>
+        <source>In the file:</source>
+        <translation>في الملف:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep both</source>
+        <translation>ال&amp;احتفاظ بكليهما</translation>
+    </message>
+    <message>
+        <source>&amp;Replace yours</source>
+        <translation>ا&amp;ستبدال تخطيطك</translation>
+    </message>
+    <message>
+        <source>&amp;Skip</source>
+        <translation>ت&amp;خطي</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>تحديد ال&amp;كل</translation>
+    </message>
+    <message>
+        <source>Select &amp;None</source>
+        <translation>&amp;إلغاء تحديد الكل</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>است&amp;يراد</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot; in the file</source>
+        <translation>صورة &quot;%1&quot; في الملف</translation>
+    </message>
+    <message>
+        <source>Picture of your &quot;%1&quot;</source>
+        <translation>صورة &quot;%1&quot; الخاص بك</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportModel</name>
+    <message>
+        <source>Replaces your layout of this name</source>
+        <translation>يحل محل تخطيطك بهذا الاسم</translation>
+    </message>
+    <message>
+        <source>Added as &quot;%1&quot;</source>
+        <translation>يضاف باسم &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>يضاف</translation>
+    </message>
+    <message>
+        <source>You have it already</source>
+        <translation>موجود لديك بالفعل</translation>
+    </message>
+    <message>
+        <source>Not imported, the name is taken</source>
+        <translation>لا يتم استيراده، الاسم مستخدم</translation>
+    </message>
+    <message>
+        <source>Not imported</source>
+        <translation>لا يتم استيراده</translation>
     </message>
 </context>
 <context>
@@ -85,6 +202,122 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::KitEntries</name>
+    <message>
+        <source>&amp;Manage Layouts...</source>
+        <translation>&amp;إدارة التخطيطات...</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutCommands</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>إعادة تسمية &quot;%1&quot; إلى &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>حذف &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Delete Layouts</source>
+        <translation>حذف تخطيطات</translation>
+    </message>
+    <message>
+        <source>Duplicate &quot;%1&quot;</source>
+        <translation>تكرار &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Duplicate Layouts</source>
+        <translation>تكرار تخطيطات</translation>
+    </message>
+    <message>
+        <source>Move &quot;%1&quot;</source>
+        <translation>نقل &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Move Layouts</source>
+        <translation>نقل تخطيطات</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>استيراد &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Imported from &quot;%1&quot;: %2</source>
+        <translation>تم الاستيراد من &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>Exported to &quot;%1&quot;: %2</source>
+        <translation>تم التصدير إلى &quot;%1&quot;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsDialog</name>
+    <message>
+        <source>Layouts</source>
+        <translation>التخطيطات</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>تراجع</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>إعادة</translation>
+    </message>
+    <message>
+        <source>&amp;Switch</source>
+        <translation>&amp;تنشيط</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;إعادة تسمية</translation>
+    </message>
+    <message>
+        <source>Du&amp;plicate</source>
+        <translation>ت&amp;كرار</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;حذف</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>&amp;نقل لأعلى</translation>
+    </message>
+    <message>
+        <source>Move D&amp;own</source>
+        <translation>نقل &amp;لأسفل</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>ت&amp;صدير...</translation>
+    </message>
+    <message>
+        <source>Move to &amp;Group</source>
+        <translation>ن&amp;قل إلى مجموعة</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>ا&amp;ستيراد...</translation>
+    </message>
+    <message>
+        <source>Arranges the windows as in the chosen layout</source>
+        <translation>ترتيب النوافذ كما في التخطيط المختار</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>الموضع %1</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsModel</name>
+    <message>
+        <source>Active</source>
+        <translation>نشط</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::Lock</name>
     <message>
         <source>Loc&amp;k Layout</source>
@@ -93,6 +326,13 @@
     <message>
         <source>Nothing can be moved, floated or closed by accident</source>
         <translation>لا يمكن نقل أي شيء أو فصله أو إغلاقه عن طريق الخطأ</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::NameEdit</name>
+    <message>
+        <source>Name of the layout</source>
+        <translation>اسم التخطيط</translation>
     </message>
 </context>
 <context>
@@ -256,6 +496,32 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::DifferencesNow</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::ImportSource</name>
+    <message>
+        <source>Nothing in &quot;%1&quot; can be imported: %2</source>
+        <translation>لا يمكن استيراد أي شيء من &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>Damaged, so left out: %1.</source>
+        <translation>تالف ولذلك تم تجاهله: %1.</translation>
+    </message>
+    <message>
+        <source>Without their damaged parts: %1.</source>
+        <translation>دون أجزائه التالفة: %1.</translation>
+    </message>
+    <message>
+        <source>Of groups that this program does not have, so left out: %1.</source>
+        <translation>من مجموعات غير موجودة في هذا البرنامج ولذلك تم تجاهله: %1.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::LayoutDocument</name>
     <message>
         <source>&quot;%1&quot; cannot be here in &quot;%2&quot;</source>
@@ -288,6 +554,21 @@
     <message>
         <source>The state in &quot;%1&quot; is not an even number of digits</source>
         <translation>عدد أرقام الحالة في &quot;%1&quot; ليس زوجيًا</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::LayoutEdits</name>
+    <message>
+        <source>A layout needs a name.</source>
+        <translation>يحتاج التخطيط إلى اسم.</translation>
+    </message>
+    <message>
+        <source>A name cannot have control characters.</source>
+        <translation>لا يمكن أن يحتوي الاسم على أحرف تحكم.</translation>
+    </message>
+    <message>
+        <source>There is a layout of this name already.</source>
+        <translation>يوجد تخطيط بهذا الاسم بالفعل.</translation>
     </message>
 </context>
 <context>

@@ -28,6 +28,37 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::DetailsPane</name>
+    <message>
+        <source>&amp;What differs from the windows now:</source>
+        <translation>&amp;Diferències amb les finestres actuals:</translation>
+    </message>
+    <message>
+        <source>Sho&amp;rtcut slot:</source>
+        <translation>&amp;Posició de la drecera:</translation>
+    </message>
+    <message>
+        <source>What differs from the windows now</source>
+        <translation>Diferències amb les finestres actuals</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot;</source>
+        <translation>Imatge de &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Nothing. The windows look like this layout.</source>
+        <translation>Cap. Les finestres són com en aquesta disposició.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Cap</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -47,6 +78,92 @@
     <message>
         <source>&amp;Group</source>
         <translation>&amp;Grup</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportDialog</name>
+    <message>
+        <source>Yours of the same name:</source>
+        <translation>La vostra amb el mateix nom:</translation>
+    </message>
+    <message>
+        <source>The name is taken</source>
+        <translation>El nom ja s’utilitza</translation>
+    </message>
+    <message>
+        <source>Import Layouts</source>
+        <translation>Importa disposicions</translation>
+    </message>
+    <message>
+        <source>&amp;Layouts in &quot;%1&quot;:</source>
+        <translation>&amp;Disposicions de &quot;%1&quot;:</translation>
+    </message>
+    <message>
+        <source>Layouts of the file</source>
+        <translation>Disposicions del fitxer</translation>
+    </message>
+    <message>
+        <source>In the file:</source>
+        <translation>Al fitxer:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep both</source>
+        <translation>&amp;Conserva les dues</translation>
+    </message>
+    <message>
+        <source>&amp;Replace yours</source>
+        <translation>&amp;Substitueix la vostra</translation>
+    </message>
+    <message>
+        <source>&amp;Skip</source>
+        <translation>&amp;Omet</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>Selecciona-&amp;ho tot</translation>
+    </message>
+    <message>
+        <source>Select &amp;None</source>
+        <translation>&amp;No seleccionis res</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importa</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot; in the file</source>
+        <translation>Imatge de &quot;%1&quot; al fitxer</translation>
+    </message>
+    <message>
+        <source>Picture of your &quot;%1&quot;</source>
+        <translation>Imatge de la vostra &quot;%1&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportModel</name>
+    <message>
+        <source>Replaces your layout of this name</source>
+        <translation>Substitueix la vostra disposició d’aquest nom</translation>
+    </message>
+    <message>
+        <source>Added as &quot;%1&quot;</source>
+        <translation>S’afegeix com a &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>S’afegeix</translation>
+    </message>
+    <message>
+        <source>You have it already</source>
+        <translation>Ja la teniu</translation>
+    </message>
+    <message>
+        <source>Not imported, the name is taken</source>
+        <translation>No s’importa, el nom ja s’utilitza</translation>
+    </message>
+    <message>
+        <source>Not imported</source>
+        <translation>No s’importa</translation>
     </message>
 </context>
 <context>
@@ -85,6 +202,122 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::KitEntries</name>
+    <message>
+        <source>&amp;Manage Layouts...</source>
+        <translation>Gestiona &amp;les disposicions...</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutCommands</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>Canvia el nom de &quot;%1&quot; a &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>Suprimeix &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Delete Layouts</source>
+        <translation>Suprimeix disposicions</translation>
+    </message>
+    <message>
+        <source>Duplicate &quot;%1&quot;</source>
+        <translation>Duplica &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Duplicate Layouts</source>
+        <translation>Duplica disposicions</translation>
+    </message>
+    <message>
+        <source>Move &quot;%1&quot;</source>
+        <translation>Mou &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Move Layouts</source>
+        <translation>Mou disposicions</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>Importa &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Imported from &quot;%1&quot;: %2</source>
+        <translation>S’ha importat de &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>Exported to &quot;%1&quot;: %2</source>
+        <translation>S’ha exportat a &quot;%1&quot;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsDialog</name>
+    <message>
+        <source>Layouts</source>
+        <translation>Disposicions</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Desfés</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Refés</translation>
+    </message>
+    <message>
+        <source>&amp;Switch</source>
+        <translation>&amp;Activa</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Canvia el nom</translation>
+    </message>
+    <message>
+        <source>Du&amp;plicate</source>
+        <translation>D&amp;uplica</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Suprimeix</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>&amp;Mou amunt</translation>
+    </message>
+    <message>
+        <source>Move D&amp;own</source>
+        <translation>M&amp;ou avall</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Exporta...</translation>
+    </message>
+    <message>
+        <source>Move to &amp;Group</source>
+        <translation>Mou al &amp;grup</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importa...</translation>
+    </message>
+    <message>
+        <source>Arranges the windows as in the chosen layout</source>
+        <translation>Col·loca les finestres com en la disposició triada</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>Posició %1</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsModel</name>
+    <message>
+        <source>Active</source>
+        <translation>Activa</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::Lock</name>
     <message>
         <source>Loc&amp;k Layout</source>
@@ -93,6 +326,13 @@
     <message>
         <source>Nothing can be moved, floated or closed by accident</source>
         <translation>No es pot moure, separar ni tancar res per accident</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::NameEdit</name>
+    <message>
+        <source>Name of the layout</source>
+        <translation>Nom de la disposició</translation>
     </message>
 </context>
 <context>
@@ -256,6 +496,32 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::DifferencesNow</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::ImportSource</name>
+    <message>
+        <source>Nothing in &quot;%1&quot; can be imported: %2</source>
+        <translation>No es pot importar res de &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>Damaged, so left out: %1.</source>
+        <translation>Omès perquè està malmès: %1.</translation>
+    </message>
+    <message>
+        <source>Without their damaged parts: %1.</source>
+        <translation>Sense les parts malmeses: %1.</translation>
+    </message>
+    <message>
+        <source>Of groups that this program does not have, so left out: %1.</source>
+        <translation>Omès perquè és de grups que aquest programa no té: %1.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::LayoutDocument</name>
     <message>
         <source>&quot;%1&quot; cannot be here in &quot;%2&quot;</source>
@@ -288,6 +554,21 @@
     <message>
         <source>The state in &quot;%1&quot; is not an even number of digits</source>
         <translation>L’estat de &quot;%1&quot; no té un nombre parell de dígits</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::LayoutEdits</name>
+    <message>
+        <source>A layout needs a name.</source>
+        <translation>Una disposició necessita un nom.</translation>
+    </message>
+    <message>
+        <source>A name cannot have control characters.</source>
+        <translation>Un nom no pot contenir caràcters de control.</translation>
+    </message>
+    <message>
+        <source>There is a layout of this name already.</source>
+        <translation>Ja hi ha una disposició amb aquest nom.</translation>
     </message>
 </context>
 <context>

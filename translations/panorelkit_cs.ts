@@ -28,6 +28,37 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::DetailsPane</name>
+    <message>
+        <source>&amp;What differs from the windows now:</source>
+        <translation>&amp;Rozdíly oproti současným oknům:</translation>
+    </message>
+    <message>
+        <source>Sho&amp;rtcut slot:</source>
+        <translation>&amp;Pozice zkratky:</translation>
+    </message>
+    <message>
+        <source>What differs from the windows now</source>
+        <translation>Rozdíly oproti současným oknům</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot;</source>
+        <translation>Obrázek &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Nothing. The windows look like this layout.</source>
+        <translation>Žádné. Okna vypadají jako toto rozložení.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Žádná</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -47,6 +78,92 @@
     <message>
         <source>&amp;Group</source>
         <translation>&amp;Skupina</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportDialog</name>
+    <message>
+        <source>Yours of the same name:</source>
+        <translation>Vaše se stejným názvem:</translation>
+    </message>
+    <message>
+        <source>The name is taken</source>
+        <translation>Název je již použit</translation>
+    </message>
+    <message>
+        <source>Import Layouts</source>
+        <translation>Importovat rozložení</translation>
+    </message>
+    <message>
+        <source>&amp;Layouts in &quot;%1&quot;:</source>
+        <translation>&amp;Rozložení v &quot;%1&quot;:</translation>
+    </message>
+    <message>
+        <source>Layouts of the file</source>
+        <translation>Rozložení ze souboru</translation>
+    </message>
+    <message>
+        <source>In the file:</source>
+        <translation>V souboru:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep both</source>
+        <translation>&amp;Ponechat obě</translation>
+    </message>
+    <message>
+        <source>&amp;Replace yours</source>
+        <translation>&amp;Nahradit vaše</translation>
+    </message>
+    <message>
+        <source>&amp;Skip</source>
+        <translation>Př&amp;eskočit</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Vybrat vše</translation>
+    </message>
+    <message>
+        <source>Select &amp;None</source>
+        <translation>Nev&amp;ybrat nic</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importovat</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot; in the file</source>
+        <translation>Obrázek &quot;%1&quot; ze souboru</translation>
+    </message>
+    <message>
+        <source>Picture of your &quot;%1&quot;</source>
+        <translation>Obrázek vašeho &quot;%1&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportModel</name>
+    <message>
+        <source>Replaces your layout of this name</source>
+        <translation>Nahradí vaše rozložení tohoto názvu</translation>
+    </message>
+    <message>
+        <source>Added as &quot;%1&quot;</source>
+        <translation>Přidá se jako &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Přidá se</translation>
+    </message>
+    <message>
+        <source>You have it already</source>
+        <translation>Již je máte</translation>
+    </message>
+    <message>
+        <source>Not imported, the name is taken</source>
+        <translation>Neimportuje se, název je již použit</translation>
+    </message>
+    <message>
+        <source>Not imported</source>
+        <translation>Neimportuje se</translation>
     </message>
 </context>
 <context>
@@ -85,6 +202,122 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::KitEntries</name>
+    <message>
+        <source>&amp;Manage Layouts...</source>
+        <translation>Spravovat &amp;rozložení...</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutCommands</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>Přejmenovat &quot;%1&quot; na &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>Smazat &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Delete Layouts</source>
+        <translation>Smazat rozložení</translation>
+    </message>
+    <message>
+        <source>Duplicate &quot;%1&quot;</source>
+        <translation>Duplikovat &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Duplicate Layouts</source>
+        <translation>Duplikovat rozložení</translation>
+    </message>
+    <message>
+        <source>Move &quot;%1&quot;</source>
+        <translation>Přesunout &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Move Layouts</source>
+        <translation>Přesunout rozložení</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>Importovat &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Imported from &quot;%1&quot;: %2</source>
+        <translation>Importováno z &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>Exported to &quot;%1&quot;: %2</source>
+        <translation>Exportováno do &quot;%1&quot;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsDialog</name>
+    <message>
+        <source>Layouts</source>
+        <translation>Rozložení</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Zpět</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Znovu</translation>
+    </message>
+    <message>
+        <source>&amp;Switch</source>
+        <translation>Př&amp;epnout</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Pře&amp;jmenovat</translation>
+    </message>
+    <message>
+        <source>Du&amp;plicate</source>
+        <translation>&amp;Duplikovat</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Smazat</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Přesunout &amp;nahoru</translation>
+    </message>
+    <message>
+        <source>Move D&amp;own</source>
+        <translation>Přes&amp;unout dolů</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>E&amp;xportovat...</translation>
+    </message>
+    <message>
+        <source>Move to &amp;Group</source>
+        <translation>Přesun&amp;out do skupiny</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importovat...</translation>
+    </message>
+    <message>
+        <source>Arranges the windows as in the chosen layout</source>
+        <translation>Uspořádá okna jako ve zvoleném rozložení</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>Pozice %1</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsModel</name>
+    <message>
+        <source>Active</source>
+        <translation>Aktivní</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::Lock</name>
     <message>
         <source>Loc&amp;k Layout</source>
@@ -93,6 +326,13 @@
     <message>
         <source>Nothing can be moved, floated or closed by accident</source>
         <translation>Nic nelze omylem přesunout, uvolnit ani zavřít</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::NameEdit</name>
+    <message>
+        <source>Name of the layout</source>
+        <translation>Název rozložení</translation>
     </message>
 </context>
 <context>
@@ -256,6 +496,32 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::DifferencesNow</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::ImportSource</name>
+    <message>
+        <source>Nothing in &quot;%1&quot; can be imported: %2</source>
+        <translation>Z &quot;%1&quot; nelze nic importovat: %2</translation>
+    </message>
+    <message>
+        <source>Damaged, so left out: %1.</source>
+        <translation>Poškozeno, proto vynecháno: %1.</translation>
+    </message>
+    <message>
+        <source>Without their damaged parts: %1.</source>
+        <translation>Bez poškozených částí: %1.</translation>
+    </message>
+    <message>
+        <source>Of groups that this program does not have, so left out: %1.</source>
+        <translation>Ze skupin, které tento program nemá, proto vynecháno: %1.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::LayoutDocument</name>
     <message>
         <source>&quot;%1&quot; cannot be here in &quot;%2&quot;</source>
@@ -288,6 +554,21 @@
     <message>
         <source>The state in &quot;%1&quot; is not an even number of digits</source>
         <translation>Stav v &quot;%1&quot; nemá sudý počet číslic</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::LayoutEdits</name>
+    <message>
+        <source>A layout needs a name.</source>
+        <translation>Rozložení musí mít název.</translation>
+    </message>
+    <message>
+        <source>A name cannot have control characters.</source>
+        <translation>Název nesmí obsahovat řídicí znaky.</translation>
+    </message>
+    <message>
+        <source>There is a layout of this name already.</source>
+        <translation>Rozložení tohoto názvu již existuje.</translation>
     </message>
 </context>
 <context>

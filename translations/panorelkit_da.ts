@@ -28,6 +28,37 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::DetailsPane</name>
+    <message>
+        <source>&amp;What differs from the windows now:</source>
+        <translation>&amp;Forskelle fra de nuværende vinduer:</translation>
+    </message>
+    <message>
+        <source>Sho&amp;rtcut slot:</source>
+        <translation>&amp;Genvejsplads:</translation>
+    </message>
+    <message>
+        <source>What differs from the windows now</source>
+        <translation>Forskelle fra de nuværende vinduer</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot;</source>
+        <translation>Billede af &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Nothing. The windows look like this layout.</source>
+        <translation>Ingen. Vinduerne ser ud som dette layout.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ingen</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -47,6 +78,92 @@
     <message>
         <source>&amp;Group</source>
         <translation>&amp;Gruppe</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportDialog</name>
+    <message>
+        <source>Yours of the same name:</source>
+        <translation>Dit med samme navn:</translation>
+    </message>
+    <message>
+        <source>The name is taken</source>
+        <translation>Navnet er optaget</translation>
+    </message>
+    <message>
+        <source>Import Layouts</source>
+        <translation>Importer layouter</translation>
+    </message>
+    <message>
+        <source>&amp;Layouts in &quot;%1&quot;:</source>
+        <translation>&amp;Layouter i &quot;%1&quot;:</translation>
+    </message>
+    <message>
+        <source>Layouts of the file</source>
+        <translation>Layouter i filen</translation>
+    </message>
+    <message>
+        <source>In the file:</source>
+        <translation>I filen:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep both</source>
+        <translation>&amp;Behold begge</translation>
+    </message>
+    <message>
+        <source>&amp;Replace yours</source>
+        <translation>&amp;Erstat dit</translation>
+    </message>
+    <message>
+        <source>&amp;Skip</source>
+        <translation>&amp;Spring over</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Vælg alle</translation>
+    </message>
+    <message>
+        <source>Select &amp;None</source>
+        <translation>Vælg &amp;ingen</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>I&amp;mporter</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot; in the file</source>
+        <translation>Billede af &quot;%1&quot; i filen</translation>
+    </message>
+    <message>
+        <source>Picture of your &quot;%1&quot;</source>
+        <translation>Billede af dit &quot;%1&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportModel</name>
+    <message>
+        <source>Replaces your layout of this name</source>
+        <translation>Erstatter dit layout med dette navn</translation>
+    </message>
+    <message>
+        <source>Added as &quot;%1&quot;</source>
+        <translation>Tilføjes som &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Tilføjes</translation>
+    </message>
+    <message>
+        <source>You have it already</source>
+        <translation>Du har det allerede</translation>
+    </message>
+    <message>
+        <source>Not imported, the name is taken</source>
+        <translation>Importeres ikke, navnet er optaget</translation>
+    </message>
+    <message>
+        <source>Not imported</source>
+        <translation>Importeres ikke</translation>
     </message>
 </context>
 <context>
@@ -85,6 +202,122 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::KitEntries</name>
+    <message>
+        <source>&amp;Manage Layouts...</source>
+        <translation>&amp;Administrer layouter...</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutCommands</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>Omdøb &quot;%1&quot; til &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>Slet &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Delete Layouts</source>
+        <translation>Slet layouter</translation>
+    </message>
+    <message>
+        <source>Duplicate &quot;%1&quot;</source>
+        <translation>Dupliker &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Duplicate Layouts</source>
+        <translation>Dupliker layouter</translation>
+    </message>
+    <message>
+        <source>Move &quot;%1&quot;</source>
+        <translation>Flyt &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Move Layouts</source>
+        <translation>Flyt layouter</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>Importer &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Imported from &quot;%1&quot;: %2</source>
+        <translation>Importeret fra &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>Exported to &quot;%1&quot;: %2</source>
+        <translation>Eksporteret til &quot;%1&quot;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsDialog</name>
+    <message>
+        <source>Layouts</source>
+        <translation>Layouter</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Fortryd</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Gentag</translation>
+    </message>
+    <message>
+        <source>&amp;Switch</source>
+        <translation>&amp;Skift</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Omdøb</translation>
+    </message>
+    <message>
+        <source>Du&amp;plicate</source>
+        <translation>&amp;Dupliker</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>S&amp;let</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Fl&amp;yt op</translation>
+    </message>
+    <message>
+        <source>Move D&amp;own</source>
+        <translation>Flyt &amp;ned</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Eksporter...</translation>
+    </message>
+    <message>
+        <source>Move to &amp;Group</source>
+        <translation>Flyt &amp;til gruppe</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importer...</translation>
+    </message>
+    <message>
+        <source>Arranges the windows as in the chosen layout</source>
+        <translation>Arrangerer vinduerne som i det valgte layout</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>Plads %1</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsModel</name>
+    <message>
+        <source>Active</source>
+        <translation>Aktivt</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::Lock</name>
     <message>
         <source>Loc&amp;k Layout</source>
@@ -93,6 +326,13 @@
     <message>
         <source>Nothing can be moved, floated or closed by accident</source>
         <translation>Intet kan flyttes, frigøres eller lukkes ved et uheld</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::NameEdit</name>
+    <message>
+        <source>Name of the layout</source>
+        <translation>Layoutets navn</translation>
     </message>
 </context>
 <context>
@@ -256,6 +496,32 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::DifferencesNow</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::ImportSource</name>
+    <message>
+        <source>Nothing in &quot;%1&quot; can be imported: %2</source>
+        <translation>Intet i &quot;%1&quot; kan importeres: %2</translation>
+    </message>
+    <message>
+        <source>Damaged, so left out: %1.</source>
+        <translation>Beskadiget og derfor udeladt: %1.</translation>
+    </message>
+    <message>
+        <source>Without their damaged parts: %1.</source>
+        <translation>Uden de beskadigede dele: %1.</translation>
+    </message>
+    <message>
+        <source>Of groups that this program does not have, so left out: %1.</source>
+        <translation>Fra grupper, som dette program ikke har, og derfor udeladt: %1.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::LayoutDocument</name>
     <message>
         <source>&quot;%1&quot; cannot be here in &quot;%2&quot;</source>
@@ -288,6 +554,21 @@
     <message>
         <source>The state in &quot;%1&quot; is not an even number of digits</source>
         <translation>Tilstanden i &quot;%1&quot; har ikke et lige antal cifre</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::LayoutEdits</name>
+    <message>
+        <source>A layout needs a name.</source>
+        <translation>Et layout skal have et navn.</translation>
+    </message>
+    <message>
+        <source>A name cannot have control characters.</source>
+        <translation>Et navn kan ikke indeholde kontroltegn.</translation>
+    </message>
+    <message>
+        <source>There is a layout of this name already.</source>
+        <translation>Der findes allerede et layout med dette navn.</translation>
     </message>
 </context>
 <context>

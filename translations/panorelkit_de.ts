@@ -28,6 +28,37 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::DetailsPane</name>
+    <message>
+        <source>&amp;What differs from the windows now:</source>
+        <translation>&amp;Unterschiede zu den jetzigen Fenstern:</translation>
+    </message>
+    <message>
+        <source>Sho&amp;rtcut slot:</source>
+        <translation>&amp;Tastenplatz:</translation>
+    </message>
+    <message>
+        <source>What differs from the windows now</source>
+        <translation>Unterschiede zu den jetzigen Fenstern</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot;</source>
+        <translation>Bild von &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Nothing. The windows look like this layout.</source>
+        <translation>Keine. Die Fenster sehen aus wie dieses Fensterlayout.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keiner</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -47,6 +78,92 @@
     <message>
         <source>&amp;Group</source>
         <translation>&amp;Gruppe</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportDialog</name>
+    <message>
+        <source>Yours of the same name:</source>
+        <translation>Ihres mit demselben Namen:</translation>
+    </message>
+    <message>
+        <source>The name is taken</source>
+        <translation>Der Name ist vergeben</translation>
+    </message>
+    <message>
+        <source>Import Layouts</source>
+        <translation>Fensterlayouts importieren</translation>
+    </message>
+    <message>
+        <source>&amp;Layouts in &quot;%1&quot;:</source>
+        <translation>&amp;Fensterlayouts in &quot;%1&quot;:</translation>
+    </message>
+    <message>
+        <source>Layouts of the file</source>
+        <translation>Fensterlayouts der Datei</translation>
+    </message>
+    <message>
+        <source>In the file:</source>
+        <translation>In der Datei:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep both</source>
+        <translation>&amp;Beide behalten</translation>
+    </message>
+    <message>
+        <source>&amp;Replace yours</source>
+        <translation>&amp;Ihres ersetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Skip</source>
+        <translation>Üb&amp;erspringen</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Alle auswählen</translation>
+    </message>
+    <message>
+        <source>Select &amp;None</source>
+        <translation>&amp;Keine auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>I&amp;mportieren</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot; in the file</source>
+        <translation>Bild von &quot;%1&quot; in der Datei</translation>
+    </message>
+    <message>
+        <source>Picture of your &quot;%1&quot;</source>
+        <translation>Bild Ihres &quot;%1&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportModel</name>
+    <message>
+        <source>Replaces your layout of this name</source>
+        <translation>Ersetzt Ihr Fensterlayout dieses Namens</translation>
+    </message>
+    <message>
+        <source>Added as &quot;%1&quot;</source>
+        <translation>Wird als &quot;%1&quot; hinzugefügt</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Wird hinzugefügt</translation>
+    </message>
+    <message>
+        <source>You have it already</source>
+        <translation>Bereits vorhanden</translation>
+    </message>
+    <message>
+        <source>Not imported, the name is taken</source>
+        <translation>Wird nicht importiert, der Name ist vergeben</translation>
+    </message>
+    <message>
+        <source>Not imported</source>
+        <translation>Wird nicht importiert</translation>
     </message>
 </context>
 <context>
@@ -85,6 +202,122 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::KitEntries</name>
+    <message>
+        <source>&amp;Manage Layouts...</source>
+        <translation>F&amp;ensterlayouts verwalten...</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutCommands</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>&quot;%1&quot; in &quot;%2&quot; umbenennen</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; löschen</translation>
+    </message>
+    <message>
+        <source>Delete Layouts</source>
+        <translation>Fensterlayouts löschen</translation>
+    </message>
+    <message>
+        <source>Duplicate &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; duplizieren</translation>
+    </message>
+    <message>
+        <source>Duplicate Layouts</source>
+        <translation>Fensterlayouts duplizieren</translation>
+    </message>
+    <message>
+        <source>Move &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; verschieben</translation>
+    </message>
+    <message>
+        <source>Move Layouts</source>
+        <translation>Fensterlayouts verschieben</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; importieren</translation>
+    </message>
+    <message>
+        <source>Imported from &quot;%1&quot;: %2</source>
+        <translation>Aus &quot;%1&quot; importiert: %2</translation>
+    </message>
+    <message>
+        <source>Exported to &quot;%1&quot;: %2</source>
+        <translation>Nach &quot;%1&quot; exportiert: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsDialog</name>
+    <message>
+        <source>Layouts</source>
+        <translation>Fensterlayouts</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>&amp;Switch</source>
+        <translation>&amp;Wechseln</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>U&amp;mbenennen</translation>
+    </message>
+    <message>
+        <source>Du&amp;plicate</source>
+        <translation>&amp;Duplizieren</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>&amp;Nach oben</translation>
+    </message>
+    <message>
+        <source>Move D&amp;own</source>
+        <translation>N&amp;ach unten</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Exportieren...</translation>
+    </message>
+    <message>
+        <source>Move to &amp;Group</source>
+        <translation>&amp;In Gruppe verschieben</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>Im&amp;portieren...</translation>
+    </message>
+    <message>
+        <source>Arranges the windows as in the chosen layout</source>
+        <translation>Ordnet die Fenster wie im ausgewählten Fensterlayout an</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>Platz %1</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsModel</name>
+    <message>
+        <source>Active</source>
+        <translation>Aktiv</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::Lock</name>
     <message>
         <source>Loc&amp;k Layout</source>
@@ -93,6 +326,13 @@
     <message>
         <source>Nothing can be moved, floated or closed by accident</source>
         <translation>Nichts kann versehentlich verschoben, gelöst oder geschlossen werden</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::NameEdit</name>
+    <message>
+        <source>Name of the layout</source>
+        <translation>Name des Fensterlayouts</translation>
     </message>
 </context>
 <context>
@@ -256,6 +496,32 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::DifferencesNow</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::ImportSource</name>
+    <message>
+        <source>Nothing in &quot;%1&quot; can be imported: %2</source>
+        <translation>Aus &quot;%1&quot; kann nichts importiert werden: %2</translation>
+    </message>
+    <message>
+        <source>Damaged, so left out: %1.</source>
+        <translation>Beschädigt und daher ausgelassen: %1.</translation>
+    </message>
+    <message>
+        <source>Without their damaged parts: %1.</source>
+        <translation>Ohne ihre beschädigten Teile: %1.</translation>
+    </message>
+    <message>
+        <source>Of groups that this program does not have, so left out: %1.</source>
+        <translation>Aus Gruppen, die dieses Programm nicht hat, und daher ausgelassen: %1.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::LayoutDocument</name>
     <message>
         <source>&quot;%1&quot; cannot be here in &quot;%2&quot;</source>
@@ -288,6 +554,21 @@
     <message>
         <source>The state in &quot;%1&quot; is not an even number of digits</source>
         <translation>Der Zustand in &quot;%1&quot; hat keine gerade Anzahl von Ziffern</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::LayoutEdits</name>
+    <message>
+        <source>A layout needs a name.</source>
+        <translation>Ein Fensterlayout braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>A name cannot have control characters.</source>
+        <translation>Ein Name darf keine Steuerzeichen enthalten.</translation>
+    </message>
+    <message>
+        <source>There is a layout of this name already.</source>
+        <translation>Es gibt bereits ein Fensterlayout mit diesem Namen.</translation>
     </message>
 </context>
 <context>

@@ -28,6 +28,37 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::DetailsPane</name>
+    <message>
+        <source>&amp;What differs from the windows now:</source>
+        <translation>&amp;Διαφορές από τα τρέχοντα παράθυρα:</translation>
+    </message>
+    <message>
+        <source>Sho&amp;rtcut slot:</source>
+        <translation>&amp;Θέση συντόμευσης:</translation>
+    </message>
+    <message>
+        <source>What differs from the windows now</source>
+        <translation>Διαφορές από τα τρέχοντα παράθυρα</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot;</source>
+        <translation>Εικόνα του &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Nothing. The windows look like this layout.</source>
+        <translation>Καμία. Τα παράθυρα είναι όπως σε αυτή τη διάταξη.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Καμία</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -47,6 +78,92 @@
     <message>
         <source>&amp;Group</source>
         <translation>&amp;Ομάδα</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportDialog</name>
+    <message>
+        <source>Yours of the same name:</source>
+        <translation>Η δική σας με το ίδιο όνομα:</translation>
+    </message>
+    <message>
+        <source>The name is taken</source>
+        <translation>Το όνομα χρησιμοποιείται ήδη</translation>
+    </message>
+    <message>
+        <source>Import Layouts</source>
+        <translation>Εισαγωγή διατάξεων</translation>
+    </message>
+    <message>
+        <source>&amp;Layouts in &quot;%1&quot;:</source>
+        <translation>&amp;Διατάξεις στο &quot;%1&quot;:</translation>
+    </message>
+    <message>
+        <source>Layouts of the file</source>
+        <translation>Διατάξεις του αρχείου</translation>
+    </message>
+    <message>
+        <source>In the file:</source>
+        <translation>Στο αρχείο:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep both</source>
+        <translation>Διατήρηση &amp;και των δύο</translation>
+    </message>
+    <message>
+        <source>&amp;Replace yours</source>
+        <translation>&amp;Αντικατάσταση της δικής σας</translation>
+    </message>
+    <message>
+        <source>&amp;Skip</source>
+        <translation>&amp;Παράλειψη</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Επιλογή όλων</translation>
+    </message>
+    <message>
+        <source>Select &amp;None</source>
+        <translation>Αποεπιλογή &amp;όλων</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>Ε&amp;ισαγωγή</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot; in the file</source>
+        <translation>Εικόνα του &quot;%1&quot; στο αρχείο</translation>
+    </message>
+    <message>
+        <source>Picture of your &quot;%1&quot;</source>
+        <translation>Εικόνα του δικού σας &quot;%1&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportModel</name>
+    <message>
+        <source>Replaces your layout of this name</source>
+        <translation>Αντικαθιστά τη διάταξή σας με αυτό το όνομα</translation>
+    </message>
+    <message>
+        <source>Added as &quot;%1&quot;</source>
+        <translation>Προστίθεται ως &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Προστίθεται</translation>
+    </message>
+    <message>
+        <source>You have it already</source>
+        <translation>Την έχετε ήδη</translation>
+    </message>
+    <message>
+        <source>Not imported, the name is taken</source>
+        <translation>Δεν εισάγεται, το όνομα χρησιμοποιείται ήδη</translation>
+    </message>
+    <message>
+        <source>Not imported</source>
+        <translation>Δεν εισάγεται</translation>
     </message>
 </context>
 <context>
@@ -85,6 +202,122 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::KitEntries</name>
+    <message>
+        <source>&amp;Manage Layouts...</source>
+        <translation>&amp;Διαχείριση διατάξεων...</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutCommands</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>Μετονομασία του &quot;%1&quot; σε &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>Διαγραφή του &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Delete Layouts</source>
+        <translation>Διαγραφή διατάξεων</translation>
+    </message>
+    <message>
+        <source>Duplicate &quot;%1&quot;</source>
+        <translation>Δημιουργία αντιγράφου του &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Duplicate Layouts</source>
+        <translation>Δημιουργία αντιγράφων διατάξεων</translation>
+    </message>
+    <message>
+        <source>Move &quot;%1&quot;</source>
+        <translation>Μετακίνηση του &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Move Layouts</source>
+        <translation>Μετακίνηση διατάξεων</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>Εισαγωγή του &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Imported from &quot;%1&quot;: %2</source>
+        <translation>Εισήχθησαν από το &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>Exported to &quot;%1&quot;: %2</source>
+        <translation>Εξήχθησαν στο &quot;%1&quot;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsDialog</name>
+    <message>
+        <source>Layouts</source>
+        <translation>Διατάξεις</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Αναίρεση</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Επαναφορά</translation>
+    </message>
+    <message>
+        <source>&amp;Switch</source>
+        <translation>&amp;Ενεργοποίηση</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Μετονομασία</translation>
+    </message>
+    <message>
+        <source>Du&amp;plicate</source>
+        <translation>Δημιουργία &amp;αντιγράφου</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>Δ&amp;ιαγραφή</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Μετακίνηση &amp;πάνω</translation>
+    </message>
+    <message>
+        <source>Move D&amp;own</source>
+        <translation>Μετακίνηση &amp;κάτω</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>Ε&amp;ξαγωγή...</translation>
+    </message>
+    <message>
+        <source>Move to &amp;Group</source>
+        <translation>Μετακίνηση &amp;σε ομάδα</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>Εισα&amp;γωγή...</translation>
+    </message>
+    <message>
+        <source>Arranges the windows as in the chosen layout</source>
+        <translation>Τακτοποιεί τα παράθυρα όπως στην επιλεγμένη διάταξη</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>Θέση %1</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsModel</name>
+    <message>
+        <source>Active</source>
+        <translation>Ενεργή</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::Lock</name>
     <message>
         <source>Loc&amp;k Layout</source>
@@ -93,6 +326,13 @@
     <message>
         <source>Nothing can be moved, floated or closed by accident</source>
         <translation>Τίποτα δεν μπορεί να μετακινηθεί, να αποσπαστεί ή να κλείσει κατά λάθος</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::NameEdit</name>
+    <message>
+        <source>Name of the layout</source>
+        <translation>Όνομα της διάταξης</translation>
     </message>
 </context>
 <context>
@@ -256,6 +496,32 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::DifferencesNow</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::ImportSource</name>
+    <message>
+        <source>Nothing in &quot;%1&quot; can be imported: %2</source>
+        <translation>Τίποτα από το &quot;%1&quot; δεν μπορεί να εισαχθεί: %2</translation>
+    </message>
+    <message>
+        <source>Damaged, so left out: %1.</source>
+        <translation>Κατεστραμμένα, γι&apos; αυτό παραλείφθηκαν: %1.</translation>
+    </message>
+    <message>
+        <source>Without their damaged parts: %1.</source>
+        <translation>Χωρίς τα κατεστραμμένα μέρη τους: %1.</translation>
+    </message>
+    <message>
+        <source>Of groups that this program does not have, so left out: %1.</source>
+        <translation>Από ομάδες που δεν έχει αυτό το πρόγραμμα, γι&apos; αυτό παραλείφθηκαν: %1.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::LayoutDocument</name>
     <message>
         <source>&quot;%1&quot; cannot be here in &quot;%2&quot;</source>
@@ -288,6 +554,21 @@
     <message>
         <source>The state in &quot;%1&quot; is not an even number of digits</source>
         <translation>Η κατάσταση στο &quot;%1&quot; δεν έχει άρτιο αριθμό ψηφίων</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::LayoutEdits</name>
+    <message>
+        <source>A layout needs a name.</source>
+        <translation>Μια διάταξη χρειάζεται όνομα.</translation>
+    </message>
+    <message>
+        <source>A name cannot have control characters.</source>
+        <translation>Ένα όνομα δεν μπορεί να έχει χαρακτήρες ελέγχου.</translation>
+    </message>
+    <message>
+        <source>There is a layout of this name already.</source>
+        <translation>Υπάρχει ήδη διάταξη με αυτό το όνομα.</translation>
     </message>
 </context>
 <context>

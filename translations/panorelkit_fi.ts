@@ -28,6 +28,37 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::DetailsPane</name>
+    <message>
+        <source>&amp;What differs from the windows now:</source>
+        <translation>&amp;Erot nykyisiin ikkunoihin:</translation>
+    </message>
+    <message>
+        <source>Sho&amp;rtcut slot:</source>
+        <translation>&amp;Pikanäppäimen paikka:</translation>
+    </message>
+    <message>
+        <source>What differs from the windows now</source>
+        <translation>Erot nykyisiin ikkunoihin</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot;</source>
+        <translation>Kuva: &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Nothing. The windows look like this layout.</source>
+        <translation>Ei mitään. Ikkunat ovat tämän asettelun mukaiset.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ei mitään</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -47,6 +78,92 @@
     <message>
         <source>&amp;Group</source>
         <translation>&amp;Ryhmä</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportDialog</name>
+    <message>
+        <source>Yours of the same name:</source>
+        <translation>Oma samanniminen:</translation>
+    </message>
+    <message>
+        <source>The name is taken</source>
+        <translation>Nimi on jo käytössä</translation>
+    </message>
+    <message>
+        <source>Import Layouts</source>
+        <translation>Tuo asetteluja</translation>
+    </message>
+    <message>
+        <source>&amp;Layouts in &quot;%1&quot;:</source>
+        <translation>&amp;Asettelut tiedostossa &quot;%1&quot;:</translation>
+    </message>
+    <message>
+        <source>Layouts of the file</source>
+        <translation>Tiedoston asettelut</translation>
+    </message>
+    <message>
+        <source>In the file:</source>
+        <translation>Tiedostossa:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep both</source>
+        <translation>&amp;Säilytä molemmat</translation>
+    </message>
+    <message>
+        <source>&amp;Replace yours</source>
+        <translation>&amp;Korvaa oma</translation>
+    </message>
+    <message>
+        <source>&amp;Skip</source>
+        <translation>&amp;Ohita</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Valitse kaikki</translation>
+    </message>
+    <message>
+        <source>Select &amp;None</source>
+        <translation>Älä valitse &amp;mitään</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Tuo</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot; in the file</source>
+        <translation>Kuva tiedoston asettelusta &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Picture of your &quot;%1&quot;</source>
+        <translation>Kuva omasta asettelusta &quot;%1&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportModel</name>
+    <message>
+        <source>Replaces your layout of this name</source>
+        <translation>Korvaa oman tämännimisen asettelun</translation>
+    </message>
+    <message>
+        <source>Added as &quot;%1&quot;</source>
+        <translation>Lisätään nimellä &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Lisätään</translation>
+    </message>
+    <message>
+        <source>You have it already</source>
+        <translation>Asettelu on jo olemassa</translation>
+    </message>
+    <message>
+        <source>Not imported, the name is taken</source>
+        <translation>Ei tuoda, nimi on jo käytössä</translation>
+    </message>
+    <message>
+        <source>Not imported</source>
+        <translation>Ei tuoda</translation>
     </message>
 </context>
 <context>
@@ -85,6 +202,122 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::KitEntries</name>
+    <message>
+        <source>&amp;Manage Layouts...</source>
+        <translation>&amp;Hallitse asetteluja...</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutCommands</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>Nimeä &quot;%1&quot; uudelleen: &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>Poista &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Delete Layouts</source>
+        <translation>Poista asetteluja</translation>
+    </message>
+    <message>
+        <source>Duplicate &quot;%1&quot;</source>
+        <translation>Monista &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Duplicate Layouts</source>
+        <translation>Monista asetteluja</translation>
+    </message>
+    <message>
+        <source>Move &quot;%1&quot;</source>
+        <translation>Siirrä &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Move Layouts</source>
+        <translation>Siirrä asetteluja</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>Tuo &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Imported from &quot;%1&quot;: %2</source>
+        <translation>Tuotu tiedostosta &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>Exported to &quot;%1&quot;: %2</source>
+        <translation>Viety tiedostoon &quot;%1&quot;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsDialog</name>
+    <message>
+        <source>Layouts</source>
+        <translation>Asettelut</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Kumoa</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Tee uudelleen</translation>
+    </message>
+    <message>
+        <source>&amp;Switch</source>
+        <translation>&amp;Vaihda</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Nimeä uudelleen</translation>
+    </message>
+    <message>
+        <source>Du&amp;plicate</source>
+        <translation>&amp;Monista</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>P&amp;oista</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>&amp;Siirrä ylös</translation>
+    </message>
+    <message>
+        <source>Move D&amp;own</source>
+        <translation>Siirrä &amp;alas</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>V&amp;ie...</translation>
+    </message>
+    <message>
+        <source>Move to &amp;Group</source>
+        <translation>Siirrä &amp;ryhmään</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Tuo...</translation>
+    </message>
+    <message>
+        <source>Arranges the windows as in the chosen layout</source>
+        <translation>Järjestää ikkunat valitun asettelun mukaan</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>Paikka %1</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsModel</name>
+    <message>
+        <source>Active</source>
+        <translation>Käytössä</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::Lock</name>
     <message>
         <source>Loc&amp;k Layout</source>
@@ -93,6 +326,13 @@
     <message>
         <source>Nothing can be moved, floated or closed by accident</source>
         <translation>Mitään ei voi siirtää, irrottaa tai sulkea vahingossa</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::NameEdit</name>
+    <message>
+        <source>Name of the layout</source>
+        <translation>Asettelun nimi</translation>
     </message>
 </context>
 <context>
@@ -256,6 +496,32 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::DifferencesNow</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::ImportSource</name>
+    <message>
+        <source>Nothing in &quot;%1&quot; can be imported: %2</source>
+        <translation>Tiedostosta &quot;%1&quot; ei voi tuoda mitään: %2</translation>
+    </message>
+    <message>
+        <source>Damaged, so left out: %1.</source>
+        <translation>Vioittunut, joten jätettiin pois: %1.</translation>
+    </message>
+    <message>
+        <source>Without their damaged parts: %1.</source>
+        <translation>Ilman vioittuneita osiaan: %1.</translation>
+    </message>
+    <message>
+        <source>Of groups that this program does not have, so left out: %1.</source>
+        <translation>Ryhmistä, joita tässä ohjelmassa ei ole, joten jätettiin pois: %1.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::LayoutDocument</name>
     <message>
         <source>&quot;%1&quot; cannot be here in &quot;%2&quot;</source>
@@ -288,6 +554,21 @@
     <message>
         <source>The state in &quot;%1&quot; is not an even number of digits</source>
         <translation>Kohteen &quot;%1&quot; tilassa ei ole parillista määrää numeroita</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::LayoutEdits</name>
+    <message>
+        <source>A layout needs a name.</source>
+        <translation>Asettelu tarvitsee nimen.</translation>
+    </message>
+    <message>
+        <source>A name cannot have control characters.</source>
+        <translation>Nimessä ei voi olla ohjausmerkkejä.</translation>
+    </message>
+    <message>
+        <source>There is a layout of this name already.</source>
+        <translation>Tämänniminen asettelu on jo olemassa.</translation>
     </message>
 </context>
 <context>

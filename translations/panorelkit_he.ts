@@ -28,6 +28,37 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::DetailsPane</name>
+    <message>
+        <source>&amp;What differs from the windows now:</source>
+        <translation>&amp;הבדלים מהחלונות הנוכחיים:</translation>
+    </message>
+    <message>
+        <source>Sho&amp;rtcut slot:</source>
+        <translation>&amp;משבצת לקיצור:</translation>
+    </message>
+    <message>
+        <source>What differs from the windows now</source>
+        <translation>הבדלים מהחלונות הנוכחיים</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot;</source>
+        <translation>תמונה של &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Nothing. The windows look like this layout.</source>
+        <translation>אין. החלונות נראים כמו בפריסה זו.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>ללא</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -47,6 +78,92 @@
     <message>
         <source>&amp;Group</source>
         <translation>&amp;קבוצה</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportDialog</name>
+    <message>
+        <source>Yours of the same name:</source>
+        <translation>שלך באותו שם:</translation>
+    </message>
+    <message>
+        <source>The name is taken</source>
+        <translation>השם תפוס</translation>
+    </message>
+    <message>
+        <source>Import Layouts</source>
+        <translation>ייבוא פריסות</translation>
+    </message>
+    <message>
+        <source>&amp;Layouts in &quot;%1&quot;:</source>
+        <translation>&amp;פריסות ב-&quot;%1&quot;:</translation>
+    </message>
+    <message>
+        <source>Layouts of the file</source>
+        <translation>הפריסות שבקובץ</translation>
+    </message>
+    <message>
+        <source>In the file:</source>
+        <translation>בקובץ:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep both</source>
+        <translation>&amp;שמירת שתיהן</translation>
+    </message>
+    <message>
+        <source>&amp;Replace yours</source>
+        <translation>&amp;החלפת שלך</translation>
+    </message>
+    <message>
+        <source>&amp;Skip</source>
+        <translation>&amp;דילוג</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;בחירת הכול</translation>
+    </message>
+    <message>
+        <source>Select &amp;None</source>
+        <translation>ב&amp;יטול הבחירה</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>ייב&amp;וא</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot; in the file</source>
+        <translation>תמונה של &quot;%1&quot; שבקובץ</translation>
+    </message>
+    <message>
+        <source>Picture of your &quot;%1&quot;</source>
+        <translation>תמונה של &quot;%1&quot; שלך</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportModel</name>
+    <message>
+        <source>Replaces your layout of this name</source>
+        <translation>תחליף את הפריסה שלך בשם זה</translation>
+    </message>
+    <message>
+        <source>Added as &quot;%1&quot;</source>
+        <translation>תתווסף בשם &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>תתווסף</translation>
+    </message>
+    <message>
+        <source>You have it already</source>
+        <translation>כבר קיימת אצלך</translation>
+    </message>
+    <message>
+        <source>Not imported, the name is taken</source>
+        <translation>לא תיובא, השם תפוס</translation>
+    </message>
+    <message>
+        <source>Not imported</source>
+        <translation>לא תיובא</translation>
     </message>
 </context>
 <context>
@@ -85,6 +202,122 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::KitEntries</name>
+    <message>
+        <source>&amp;Manage Layouts...</source>
+        <translation>נ&amp;יהול פריסות...</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutCommands</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>שינוי השם של &quot;%1&quot; ל-&quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>מחיקת &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Delete Layouts</source>
+        <translation>מחיקת פריסות</translation>
+    </message>
+    <message>
+        <source>Duplicate &quot;%1&quot;</source>
+        <translation>שכפול &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Duplicate Layouts</source>
+        <translation>שכפול פריסות</translation>
+    </message>
+    <message>
+        <source>Move &quot;%1&quot;</source>
+        <translation>העברת &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Move Layouts</source>
+        <translation>העברת פריסות</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>ייבוא &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Imported from &quot;%1&quot;: %2</source>
+        <translation>יובא מ-&quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>Exported to &quot;%1&quot;: %2</source>
+        <translation>יוצא אל &quot;%1&quot;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsDialog</name>
+    <message>
+        <source>Layouts</source>
+        <translation>פריסות</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>ביטול פעולה</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>ביצוע חוזר</translation>
+    </message>
+    <message>
+        <source>&amp;Switch</source>
+        <translation>מ&amp;עבר</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;שינוי שם</translation>
+    </message>
+    <message>
+        <source>Du&amp;plicate</source>
+        <translation>ש&amp;כפול</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>מ&amp;חיקה</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>העברה &amp;למעלה</translation>
+    </message>
+    <message>
+        <source>Move D&amp;own</source>
+        <translation>הע&amp;ברה למטה</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;ייצוא...</translation>
+    </message>
+    <message>
+        <source>Move to &amp;Group</source>
+        <translation>העב&amp;רה לקבוצה</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>ייב&amp;וא...</translation>
+    </message>
+    <message>
+        <source>Arranges the windows as in the chosen layout</source>
+        <translation>מסדר את החלונות כמו בפריסה שנבחרה</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>משבצת %1</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsModel</name>
+    <message>
+        <source>Active</source>
+        <translation>פעילה</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::Lock</name>
     <message>
         <source>Loc&amp;k Layout</source>
@@ -93,6 +326,13 @@
     <message>
         <source>Nothing can be moved, floated or closed by accident</source>
         <translation>לא ניתן להזיז, לנתק או לסגור דבר בטעות</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::NameEdit</name>
+    <message>
+        <source>Name of the layout</source>
+        <translation>שם הפריסה</translation>
     </message>
 </context>
 <context>
@@ -256,6 +496,32 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::DifferencesNow</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::ImportSource</name>
+    <message>
+        <source>Nothing in &quot;%1&quot; can be imported: %2</source>
+        <translation>לא ניתן לייבא דבר מ-&quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>Damaged, so left out: %1.</source>
+        <translation>פגום, ולכן הושמט: %1.</translation>
+    </message>
+    <message>
+        <source>Without their damaged parts: %1.</source>
+        <translation>ללא החלקים הפגומים: %1.</translation>
+    </message>
+    <message>
+        <source>Of groups that this program does not have, so left out: %1.</source>
+        <translation>מקבוצות שאינן בתוכנית זו, ולכן הושמט: %1.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::LayoutDocument</name>
     <message>
         <source>&quot;%1&quot; cannot be here in &quot;%2&quot;</source>
@@ -288,6 +554,21 @@
     <message>
         <source>The state in &quot;%1&quot; is not an even number of digits</source>
         <translation>מספר הספרות במצב שבתוך &quot;%1&quot; אינו זוגי</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::LayoutEdits</name>
+    <message>
+        <source>A layout needs a name.</source>
+        <translation>לפריסה דרוש שם.</translation>
+    </message>
+    <message>
+        <source>A name cannot have control characters.</source>
+        <translation>שם אינו יכול להכיל תווי בקרה.</translation>
+    </message>
+    <message>
+        <source>There is a layout of this name already.</source>
+        <translation>כבר קיימת פריסה בשם זה.</translation>
     </message>
 </context>
 <context>

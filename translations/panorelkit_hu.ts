@@ -28,6 +28,37 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::DetailsPane</name>
+    <message>
+        <source>&amp;What differs from the windows now:</source>
+        <translation>&amp;Eltérések a jelenlegi ablakoktól:</translation>
+    </message>
+    <message>
+        <source>Sho&amp;rtcut slot:</source>
+        <translation>&amp;Gyorsbillentyű helye:</translation>
+    </message>
+    <message>
+        <source>What differs from the windows now</source>
+        <translation>Eltérések a jelenlegi ablakoktól</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot;</source>
+        <translation>A(z) &quot;%1&quot; képe</translation>
+    </message>
+    <message>
+        <source>Nothing. The windows look like this layout.</source>
+        <translation>Nincs. Az ablakok olyanok, mint ebben az elrendezésben.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nincs</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -47,6 +78,92 @@
     <message>
         <source>&amp;Group</source>
         <translation>&amp;Csoport</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportDialog</name>
+    <message>
+        <source>Yours of the same name:</source>
+        <translation>A saját, azonos nevű:</translation>
+    </message>
+    <message>
+        <source>The name is taken</source>
+        <translation>A név már foglalt</translation>
+    </message>
+    <message>
+        <source>Import Layouts</source>
+        <translation>Elrendezések importálása</translation>
+    </message>
+    <message>
+        <source>&amp;Layouts in &quot;%1&quot;:</source>
+        <translation>&amp;Elrendezések a(z) &quot;%1&quot; fájlban:</translation>
+    </message>
+    <message>
+        <source>Layouts of the file</source>
+        <translation>A fájl elrendezései</translation>
+    </message>
+    <message>
+        <source>In the file:</source>
+        <translation>A fájlban:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep both</source>
+        <translation>&amp;Mindkettő megtartása</translation>
+    </message>
+    <message>
+        <source>&amp;Replace yours</source>
+        <translation>&amp;A saját lecserélése</translation>
+    </message>
+    <message>
+        <source>&amp;Skip</source>
+        <translation>&amp;Kihagyás</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>Ö&amp;sszes kijelölése</translation>
+    </message>
+    <message>
+        <source>Select &amp;None</source>
+        <translation>K&amp;ijelölés megszüntetése</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>Im&amp;portálás</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot; in the file</source>
+        <translation>A fájlbeli &quot;%1&quot; képe</translation>
+    </message>
+    <message>
+        <source>Picture of your &quot;%1&quot;</source>
+        <translation>A saját &quot;%1&quot; képe</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportModel</name>
+    <message>
+        <source>Replaces your layout of this name</source>
+        <translation>Lecseréli a saját, ilyen nevű elrendezést</translation>
+    </message>
+    <message>
+        <source>Added as &quot;%1&quot;</source>
+        <translation>Hozzáadás &quot;%1&quot; néven</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Hozzáadás</translation>
+    </message>
+    <message>
+        <source>You have it already</source>
+        <translation>Már megvan</translation>
+    </message>
+    <message>
+        <source>Not imported, the name is taken</source>
+        <translation>Nincs importálás, a név foglalt</translation>
+    </message>
+    <message>
+        <source>Not imported</source>
+        <translation>Nincs importálás</translation>
     </message>
 </context>
 <context>
@@ -85,6 +202,122 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::KitEntries</name>
+    <message>
+        <source>&amp;Manage Layouts...</source>
+        <translation>E&amp;lrendezések kezelése...</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutCommands</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>&quot;%1&quot; átnevezése erre: &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; törlése</translation>
+    </message>
+    <message>
+        <source>Delete Layouts</source>
+        <translation>Elrendezések törlése</translation>
+    </message>
+    <message>
+        <source>Duplicate &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; kettőzése</translation>
+    </message>
+    <message>
+        <source>Duplicate Layouts</source>
+        <translation>Elrendezések kettőzése</translation>
+    </message>
+    <message>
+        <source>Move &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; áthelyezése</translation>
+    </message>
+    <message>
+        <source>Move Layouts</source>
+        <translation>Elrendezések áthelyezése</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; importálása</translation>
+    </message>
+    <message>
+        <source>Imported from &quot;%1&quot;: %2</source>
+        <translation>Importálva innen: &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>Exported to &quot;%1&quot;: %2</source>
+        <translation>Exportálva ide: &quot;%1&quot;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsDialog</name>
+    <message>
+        <source>Layouts</source>
+        <translation>Elrendezések</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Visszavonás</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Ismét</translation>
+    </message>
+    <message>
+        <source>&amp;Switch</source>
+        <translation>&amp;Váltás</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Á&amp;tnevezés</translation>
+    </message>
+    <message>
+        <source>Du&amp;plicate</source>
+        <translation>&amp;Kettőzés</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>Tö&amp;rlés</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>&amp;Mozgatás felfelé</translation>
+    </message>
+    <message>
+        <source>Move D&amp;own</source>
+        <translation>Mozgatás &amp;lefelé</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>E&amp;xportálás...</translation>
+    </message>
+    <message>
+        <source>Move to &amp;Group</source>
+        <translation>Áthelyezés &amp;csoportba</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importálás...</translation>
+    </message>
+    <message>
+        <source>Arranges the windows as in the chosen layout</source>
+        <translation>A kijelölt elrendezés szerint rendezi el az ablakokat</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>%1. hely</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsModel</name>
+    <message>
+        <source>Active</source>
+        <translation>Aktív</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::Lock</name>
     <message>
         <source>Loc&amp;k Layout</source>
@@ -93,6 +326,13 @@
     <message>
         <source>Nothing can be moved, floated or closed by accident</source>
         <translation>Semmi sem helyezhető át, választható le vagy zárható be véletlenül</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::NameEdit</name>
+    <message>
+        <source>Name of the layout</source>
+        <translation>Az elrendezés neve</translation>
     </message>
 </context>
 <context>
@@ -256,6 +496,32 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::DifferencesNow</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::ImportSource</name>
+    <message>
+        <source>Nothing in &quot;%1&quot; can be imported: %2</source>
+        <translation>A(z) &quot;%1&quot; fájlból semmi sem importálható: %2</translation>
+    </message>
+    <message>
+        <source>Damaged, so left out: %1.</source>
+        <translation>Sérült, ezért kimaradt: %1.</translation>
+    </message>
+    <message>
+        <source>Without their damaged parts: %1.</source>
+        <translation>Sérült részek nélkül: %1.</translation>
+    </message>
+    <message>
+        <source>Of groups that this program does not have, so left out: %1.</source>
+        <translation>Olyan csoportból való, amely ebben a programban nincs, ezért kimaradt: %1.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::LayoutDocument</name>
     <message>
         <source>&quot;%1&quot; cannot be here in &quot;%2&quot;</source>
@@ -288,6 +554,21 @@
     <message>
         <source>The state in &quot;%1&quot; is not an even number of digits</source>
         <translation>A(z) &quot;%1&quot; elemben lévő állapot számjegyeinek száma nem páros</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::LayoutEdits</name>
+    <message>
+        <source>A layout needs a name.</source>
+        <translation>Az elrendezésnek név kell.</translation>
+    </message>
+    <message>
+        <source>A name cannot have control characters.</source>
+        <translation>A név nem tartalmazhat vezérlőkaraktereket.</translation>
+    </message>
+    <message>
+        <source>There is a layout of this name already.</source>
+        <translation>Már van ilyen nevű elrendezés.</translation>
     </message>
 </context>
 <context>

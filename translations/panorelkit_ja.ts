@@ -28,6 +28,37 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::DetailsPane</name>
+    <message>
+        <source>&amp;What differs from the windows now:</source>
+        <translation>現在のウィンドウとの違い(&amp;W):</translation>
+    </message>
+    <message>
+        <source>Sho&amp;rtcut slot:</source>
+        <translation>ショートカットのスロット(&amp;R):</translation>
+    </message>
+    <message>
+        <source>What differs from the windows now</source>
+        <translation>現在のウィンドウとの違い</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; の図</translation>
+    </message>
+    <message>
+        <source>Nothing. The windows look like this layout.</source>
+        <translation>ありません。ウィンドウはこのレイアウトのとおりです。</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -47,6 +78,92 @@
     <message>
         <source>&amp;Group</source>
         <translation>グループ(&amp;G)</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportDialog</name>
+    <message>
+        <source>Yours of the same name:</source>
+        <translation>同名の既存のレイアウト:</translation>
+    </message>
+    <message>
+        <source>The name is taken</source>
+        <translation>名前が使用されています</translation>
+    </message>
+    <message>
+        <source>Import Layouts</source>
+        <translation>レイアウトのインポート</translation>
+    </message>
+    <message>
+        <source>&amp;Layouts in &quot;%1&quot;:</source>
+        <translation>&quot;%1&quot; のレイアウト(&amp;L):</translation>
+    </message>
+    <message>
+        <source>Layouts of the file</source>
+        <translation>ファイルのレイアウト</translation>
+    </message>
+    <message>
+        <source>In the file:</source>
+        <translation>ファイル内:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep both</source>
+        <translation>両方を残す(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;Replace yours</source>
+        <translation>既存のものを置き換える(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Skip</source>
+        <translation>スキップ(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>すべて選択(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Select &amp;None</source>
+        <translation>すべて選択解除(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>インポート(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot; in the file</source>
+        <translation>ファイル内の &quot;%1&quot; の図</translation>
+    </message>
+    <message>
+        <source>Picture of your &quot;%1&quot;</source>
+        <translation>既存の &quot;%1&quot; の図</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportModel</name>
+    <message>
+        <source>Replaces your layout of this name</source>
+        <translation>この名前の既存のレイアウトを置き換えます</translation>
+    </message>
+    <message>
+        <source>Added as &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; として追加します</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>追加します</translation>
+    </message>
+    <message>
+        <source>You have it already</source>
+        <translation>すでにあります</translation>
+    </message>
+    <message>
+        <source>Not imported, the name is taken</source>
+        <translation>名前が使用されているためインポートしません</translation>
+    </message>
+    <message>
+        <source>Not imported</source>
+        <translation>インポートしません</translation>
     </message>
 </context>
 <context>
@@ -85,6 +202,122 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::KitEntries</name>
+    <message>
+        <source>&amp;Manage Layouts...</source>
+        <translation>レイアウトを管理(&amp;M)...</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutCommands</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>&quot;%1&quot; の名前を &quot;%2&quot; に変更</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; を削除</translation>
+    </message>
+    <message>
+        <source>Delete Layouts</source>
+        <translation>レイアウトを削除</translation>
+    </message>
+    <message>
+        <source>Duplicate &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; を複製</translation>
+    </message>
+    <message>
+        <source>Duplicate Layouts</source>
+        <translation>レイアウトを複製</translation>
+    </message>
+    <message>
+        <source>Move &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; を移動</translation>
+    </message>
+    <message>
+        <source>Move Layouts</source>
+        <translation>レイアウトを移動</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; をインポート</translation>
+    </message>
+    <message>
+        <source>Imported from &quot;%1&quot;: %2</source>
+        <translation>&quot;%1&quot; からインポートしました: %2</translation>
+    </message>
+    <message>
+        <source>Exported to &quot;%1&quot;: %2</source>
+        <translation>&quot;%1&quot; にエクスポートしました: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsDialog</name>
+    <message>
+        <source>Layouts</source>
+        <translation>レイアウト</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直す</translation>
+    </message>
+    <message>
+        <source>&amp;Switch</source>
+        <translation>切り替え(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>名前の変更(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Du&amp;plicate</source>
+        <translation>複製(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>削除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>上へ移動(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Move D&amp;own</source>
+        <translation>下へ移動(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>エクスポート(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>Move to &amp;Group</source>
+        <translation>グループへ移動(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>インポート(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>Arranges the windows as in the chosen layout</source>
+        <translation>選択したレイアウトのとおりにウィンドウを配置します</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>スロット %1</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsModel</name>
+    <message>
+        <source>Active</source>
+        <translation>アクティブ</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::Lock</name>
     <message>
         <source>Loc&amp;k Layout</source>
@@ -93,6 +326,13 @@
     <message>
         <source>Nothing can be moved, floated or closed by accident</source>
         <translation>誤って移動、フローティング、閉じることができないようにします</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::NameEdit</name>
+    <message>
+        <source>Name of the layout</source>
+        <translation>レイアウトの名前</translation>
     </message>
 </context>
 <context>
@@ -256,6 +496,32 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::DifferencesNow</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::ImportSource</name>
+    <message>
+        <source>Nothing in &quot;%1&quot; can be imported: %2</source>
+        <translation>&quot;%1&quot; からは何もインポートできません: %2</translation>
+    </message>
+    <message>
+        <source>Damaged, so left out: %1.</source>
+        <translation>破損していたため除外しました: %1。</translation>
+    </message>
+    <message>
+        <source>Without their damaged parts: %1.</source>
+        <translation>破損した部分を除いてあります: %1。</translation>
+    </message>
+    <message>
+        <source>Of groups that this program does not have, so left out: %1.</source>
+        <translation>このプログラムにないグループのものなので除外しました: %1。</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::LayoutDocument</name>
     <message>
         <source>&quot;%1&quot; cannot be here in &quot;%2&quot;</source>
@@ -288,6 +554,21 @@
     <message>
         <source>The state in &quot;%1&quot; is not an even number of digits</source>
         <translation>&quot;%1&quot; の状態の桁数が偶数ではありません</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::LayoutEdits</name>
+    <message>
+        <source>A layout needs a name.</source>
+        <translation>レイアウトには名前が必要です。</translation>
+    </message>
+    <message>
+        <source>A name cannot have control characters.</source>
+        <translation>名前に制御文字は使えません。</translation>
+    </message>
+    <message>
+        <source>There is a layout of this name already.</source>
+        <translation>この名前のレイアウトはすでにあります。</translation>
     </message>
 </context>
 <context>

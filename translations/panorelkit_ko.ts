@@ -28,6 +28,37 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::DetailsPane</name>
+    <message>
+        <source>&amp;What differs from the windows now:</source>
+        <translation>현재 창과 다른 점(&amp;W):</translation>
+    </message>
+    <message>
+        <source>Sho&amp;rtcut slot:</source>
+        <translation>단축키 슬롯(&amp;R):</translation>
+    </message>
+    <message>
+        <source>What differs from the windows now</source>
+        <translation>현재 창과 다른 점</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot;</source>
+        <translation>&quot;%1&quot;의 그림</translation>
+    </message>
+    <message>
+        <source>Nothing. The windows look like this layout.</source>
+        <translation>없음. 창이 이 레이아웃과 같습니다.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>없음</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -47,6 +78,92 @@
     <message>
         <source>&amp;Group</source>
         <translation>그룹(&amp;G)</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportDialog</name>
+    <message>
+        <source>Yours of the same name:</source>
+        <translation>이름이 같은 기존 레이아웃:</translation>
+    </message>
+    <message>
+        <source>The name is taken</source>
+        <translation>이미 사용 중인 이름</translation>
+    </message>
+    <message>
+        <source>Import Layouts</source>
+        <translation>레이아웃 가져오기</translation>
+    </message>
+    <message>
+        <source>&amp;Layouts in &quot;%1&quot;:</source>
+        <translation>&quot;%1&quot;의 레이아웃(&amp;L):</translation>
+    </message>
+    <message>
+        <source>Layouts of the file</source>
+        <translation>파일의 레이아웃</translation>
+    </message>
+    <message>
+        <source>In the file:</source>
+        <translation>파일에 있는 것:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep both</source>
+        <translation>둘 다 유지(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;Replace yours</source>
+        <translation>기존 것 바꾸기(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Skip</source>
+        <translation>건너뛰기(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>모두 선택(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Select &amp;None</source>
+        <translation>모두 선택 해제(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>가져오기(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot; in the file</source>
+        <translation>파일에 있는 &quot;%1&quot;의 그림</translation>
+    </message>
+    <message>
+        <source>Picture of your &quot;%1&quot;</source>
+        <translation>기존 &quot;%1&quot;의 그림</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportModel</name>
+    <message>
+        <source>Replaces your layout of this name</source>
+        <translation>이름이 같은 기존 레이아웃을 바꿉니다</translation>
+    </message>
+    <message>
+        <source>Added as &quot;%1&quot;</source>
+        <translation>&quot;%1&quot;(으)로 추가됩니다</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>추가됩니다</translation>
+    </message>
+    <message>
+        <source>You have it already</source>
+        <translation>이미 있습니다</translation>
+    </message>
+    <message>
+        <source>Not imported, the name is taken</source>
+        <translation>이름이 사용 중이므로 가져오지 않습니다</translation>
+    </message>
+    <message>
+        <source>Not imported</source>
+        <translation>가져오지 않습니다</translation>
     </message>
 </context>
 <context>
@@ -85,6 +202,122 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::KitEntries</name>
+    <message>
+        <source>&amp;Manage Layouts...</source>
+        <translation>레이아웃 관리(&amp;M)...</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutCommands</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>&quot;%1&quot;의 이름을 &quot;%2&quot;(으)로 바꾸기</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; 삭제</translation>
+    </message>
+    <message>
+        <source>Delete Layouts</source>
+        <translation>레이아웃 삭제</translation>
+    </message>
+    <message>
+        <source>Duplicate &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; 복제</translation>
+    </message>
+    <message>
+        <source>Duplicate Layouts</source>
+        <translation>레이아웃 복제</translation>
+    </message>
+    <message>
+        <source>Move &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; 이동</translation>
+    </message>
+    <message>
+        <source>Move Layouts</source>
+        <translation>레이아웃 이동</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; 가져오기</translation>
+    </message>
+    <message>
+        <source>Imported from &quot;%1&quot;: %2</source>
+        <translation>&quot;%1&quot;에서 가져왔습니다: %2</translation>
+    </message>
+    <message>
+        <source>Exported to &quot;%1&quot;: %2</source>
+        <translation>&quot;%1&quot;(으)로 내보냈습니다: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsDialog</name>
+    <message>
+        <source>Layouts</source>
+        <translation>레이아웃</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>실행 취소</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>다시 실행</translation>
+    </message>
+    <message>
+        <source>&amp;Switch</source>
+        <translation>전환(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>이름 바꾸기(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Du&amp;plicate</source>
+        <translation>복제(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>삭제(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>위로 이동(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Move D&amp;own</source>
+        <translation>아래로 이동(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>내보내기(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>Move to &amp;Group</source>
+        <translation>그룹으로 이동(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>가져오기(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>Arranges the windows as in the chosen layout</source>
+        <translation>선택한 레이아웃대로 창을 배치합니다</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>슬롯 %1</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsModel</name>
+    <message>
+        <source>Active</source>
+        <translation>활성</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::Lock</name>
     <message>
         <source>Loc&amp;k Layout</source>
@@ -93,6 +326,13 @@
     <message>
         <source>Nothing can be moved, floated or closed by accident</source>
         <translation>실수로 옮기거나 떼어 내거나 닫을 수 없습니다</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::NameEdit</name>
+    <message>
+        <source>Name of the layout</source>
+        <translation>레이아웃의 이름</translation>
     </message>
 </context>
 <context>
@@ -256,6 +496,32 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::DifferencesNow</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::ImportSource</name>
+    <message>
+        <source>Nothing in &quot;%1&quot; can be imported: %2</source>
+        <translation>&quot;%1&quot;에서 가져올 수 있는 것이 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>Damaged, so left out: %1.</source>
+        <translation>손상되어 제외되었습니다: %1.</translation>
+    </message>
+    <message>
+        <source>Without their damaged parts: %1.</source>
+        <translation>손상된 부분을 뺐습니다: %1.</translation>
+    </message>
+    <message>
+        <source>Of groups that this program does not have, so left out: %1.</source>
+        <translation>이 프로그램에 없는 그룹이므로 제외되었습니다: %1.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::LayoutDocument</name>
     <message>
         <source>&quot;%1&quot; cannot be here in &quot;%2&quot;</source>
@@ -288,6 +554,21 @@
     <message>
         <source>The state in &quot;%1&quot; is not an even number of digits</source>
         <translation>&quot;%1&quot;의 상태 자릿수가 짝수가 아닙니다</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::LayoutEdits</name>
+    <message>
+        <source>A layout needs a name.</source>
+        <translation>레이아웃에는 이름이 필요합니다.</translation>
+    </message>
+    <message>
+        <source>A name cannot have control characters.</source>
+        <translation>이름에 제어 문자를 쓸 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>There is a layout of this name already.</source>
+        <translation>이 이름의 레이아웃이 이미 있습니다.</translation>
     </message>
 </context>
 <context>

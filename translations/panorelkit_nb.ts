@@ -28,6 +28,37 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::DetailsPane</name>
+    <message>
+        <source>&amp;What differs from the windows now:</source>
+        <translation>&amp;Forskjeller fra vinduene nå:</translation>
+    </message>
+    <message>
+        <source>Sho&amp;rtcut slot:</source>
+        <translation>&amp;Snarveiplass:</translation>
+    </message>
+    <message>
+        <source>What differs from the windows now</source>
+        <translation>Forskjeller fra vinduene nå</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot;</source>
+        <translation>Bilde av &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Nothing. The windows look like this layout.</source>
+        <translation>Ingen. Vinduene ser ut som i dette oppsettet.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ingen</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -47,6 +78,92 @@
     <message>
         <source>&amp;Group</source>
         <translation>&amp;Gruppe</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportDialog</name>
+    <message>
+        <source>Yours of the same name:</source>
+        <translation>Ditt med samme navn:</translation>
+    </message>
+    <message>
+        <source>The name is taken</source>
+        <translation>Navnet er opptatt</translation>
+    </message>
+    <message>
+        <source>Import Layouts</source>
+        <translation>Importer oppsett</translation>
+    </message>
+    <message>
+        <source>&amp;Layouts in &quot;%1&quot;:</source>
+        <translation>&amp;Oppsett i &quot;%1&quot;:</translation>
+    </message>
+    <message>
+        <source>Layouts of the file</source>
+        <translation>Oppsettene i filen</translation>
+    </message>
+    <message>
+        <source>In the file:</source>
+        <translation>I filen:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep both</source>
+        <translation>&amp;Behold begge</translation>
+    </message>
+    <message>
+        <source>&amp;Replace yours</source>
+        <translation>&amp;Erstatt ditt</translation>
+    </message>
+    <message>
+        <source>&amp;Skip</source>
+        <translation>&amp;Hopp over</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Velg alle</translation>
+    </message>
+    <message>
+        <source>Select &amp;None</source>
+        <translation>Velg &amp;ingen</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>I&amp;mporter</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot; in the file</source>
+        <translation>Bilde av &quot;%1&quot; i filen</translation>
+    </message>
+    <message>
+        <source>Picture of your &quot;%1&quot;</source>
+        <translation>Bilde av ditt &quot;%1&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportModel</name>
+    <message>
+        <source>Replaces your layout of this name</source>
+        <translation>Erstatter oppsettet ditt med dette navnet</translation>
+    </message>
+    <message>
+        <source>Added as &quot;%1&quot;</source>
+        <translation>Legges til som &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Legges til</translation>
+    </message>
+    <message>
+        <source>You have it already</source>
+        <translation>Du har det allerede</translation>
+    </message>
+    <message>
+        <source>Not imported, the name is taken</source>
+        <translation>Importeres ikke, navnet er opptatt</translation>
+    </message>
+    <message>
+        <source>Not imported</source>
+        <translation>Importeres ikke</translation>
     </message>
 </context>
 <context>
@@ -85,6 +202,122 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::KitEntries</name>
+    <message>
+        <source>&amp;Manage Layouts...</source>
+        <translation>Behandle &amp;oppsett...</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutCommands</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>Gi &quot;%1&quot; det nye navnet &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>Slett &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Delete Layouts</source>
+        <translation>Slett oppsett</translation>
+    </message>
+    <message>
+        <source>Duplicate &quot;%1&quot;</source>
+        <translation>Dupliser &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Duplicate Layouts</source>
+        <translation>Dupliser oppsett</translation>
+    </message>
+    <message>
+        <source>Move &quot;%1&quot;</source>
+        <translation>Flytt &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Move Layouts</source>
+        <translation>Flytt oppsett</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>Importer &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Imported from &quot;%1&quot;: %2</source>
+        <translation>Importert fra &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>Exported to &quot;%1&quot;: %2</source>
+        <translation>Eksportert til &quot;%1&quot;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsDialog</name>
+    <message>
+        <source>Layouts</source>
+        <translation>Oppsett</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Angre</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Gjør om</translation>
+    </message>
+    <message>
+        <source>&amp;Switch</source>
+        <translation>&amp;Bytt</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Gi nytt navn</translation>
+    </message>
+    <message>
+        <source>Du&amp;plicate</source>
+        <translation>&amp;Dupliser</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>S&amp;lett</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Flytt &amp;opp</translation>
+    </message>
+    <message>
+        <source>Move D&amp;own</source>
+        <translation>Flytt &amp;ned</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Eksporter...</translation>
+    </message>
+    <message>
+        <source>Move to &amp;Group</source>
+        <translation>Flytt &amp;til gruppe</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importer...</translation>
+    </message>
+    <message>
+        <source>Arranges the windows as in the chosen layout</source>
+        <translation>Ordner vinduene som i det valgte oppsettet</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>Plass %1</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsModel</name>
+    <message>
+        <source>Active</source>
+        <translation>Aktivt</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::Lock</name>
     <message>
         <source>Loc&amp;k Layout</source>
@@ -93,6 +326,13 @@
     <message>
         <source>Nothing can be moved, floated or closed by accident</source>
         <translation>Ingenting kan flyttes, løsnes eller lukkes ved et uhell</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::NameEdit</name>
+    <message>
+        <source>Name of the layout</source>
+        <translation>Navn på oppsettet</translation>
     </message>
 </context>
 <context>
@@ -256,6 +496,32 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::DifferencesNow</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::ImportSource</name>
+    <message>
+        <source>Nothing in &quot;%1&quot; can be imported: %2</source>
+        <translation>Ingenting i &quot;%1&quot; kan importeres: %2</translation>
+    </message>
+    <message>
+        <source>Damaged, so left out: %1.</source>
+        <translation>Skadet og derfor utelatt: %1.</translation>
+    </message>
+    <message>
+        <source>Without their damaged parts: %1.</source>
+        <translation>Uten de skadde delene: %1.</translation>
+    </message>
+    <message>
+        <source>Of groups that this program does not have, so left out: %1.</source>
+        <translation>Fra grupper som dette programmet ikke har, og derfor utelatt: %1.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::LayoutDocument</name>
     <message>
         <source>&quot;%1&quot; cannot be here in &quot;%2&quot;</source>
@@ -288,6 +554,21 @@
     <message>
         <source>The state in &quot;%1&quot; is not an even number of digits</source>
         <translation>Tilstanden i &quot;%1&quot; har ikke et partall av sifre</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::LayoutEdits</name>
+    <message>
+        <source>A layout needs a name.</source>
+        <translation>Et oppsett trenger et navn.</translation>
+    </message>
+    <message>
+        <source>A name cannot have control characters.</source>
+        <translation>Et navn kan ikke inneholde kontrolltegn.</translation>
+    </message>
+    <message>
+        <source>There is a layout of this name already.</source>
+        <translation>Det finnes allerede et oppsett med dette navnet.</translation>
     </message>
 </context>
 <context>

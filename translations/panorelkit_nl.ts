@@ -28,6 +28,37 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::DetailsPane</name>
+    <message>
+        <source>&amp;What differs from the windows now:</source>
+        <translation>&amp;Verschillen met de huidige vensters:</translation>
+    </message>
+    <message>
+        <source>Sho&amp;rtcut slot:</source>
+        <translation>&amp;Plaats van de sneltoets:</translation>
+    </message>
+    <message>
+        <source>What differs from the windows now</source>
+        <translation>Verschillen met de huidige vensters</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot;</source>
+        <translation>Afbeelding van &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Nothing. The windows look like this layout.</source>
+        <translation>Geen. De vensters zien eruit als deze indeling.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Geen</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -47,6 +78,92 @@
     <message>
         <source>&amp;Group</source>
         <translation>&amp;Groep</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportDialog</name>
+    <message>
+        <source>Yours of the same name:</source>
+        <translation>De uwe met dezelfde naam:</translation>
+    </message>
+    <message>
+        <source>The name is taken</source>
+        <translation>De naam is al in gebruik</translation>
+    </message>
+    <message>
+        <source>Import Layouts</source>
+        <translation>Indelingen importeren</translation>
+    </message>
+    <message>
+        <source>&amp;Layouts in &quot;%1&quot;:</source>
+        <translation>&amp;Indelingen in &quot;%1&quot;:</translation>
+    </message>
+    <message>
+        <source>Layouts of the file</source>
+        <translation>Indelingen van het bestand</translation>
+    </message>
+    <message>
+        <source>In the file:</source>
+        <translation>In het bestand:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep both</source>
+        <translation>&amp;Beide behouden</translation>
+    </message>
+    <message>
+        <source>&amp;Replace yours</source>
+        <translation>&amp;De uwe vervangen</translation>
+    </message>
+    <message>
+        <source>&amp;Skip</source>
+        <translation>&amp;Overslaan</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Alles selecteren</translation>
+    </message>
+    <message>
+        <source>Select &amp;None</source>
+        <translation>&amp;Niets selecteren</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>I&amp;mporteren</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot; in the file</source>
+        <translation>Afbeelding van &quot;%1&quot; in het bestand</translation>
+    </message>
+    <message>
+        <source>Picture of your &quot;%1&quot;</source>
+        <translation>Afbeelding van uw &quot;%1&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportModel</name>
+    <message>
+        <source>Replaces your layout of this name</source>
+        <translation>Vervangt uw indeling met deze naam</translation>
+    </message>
+    <message>
+        <source>Added as &quot;%1&quot;</source>
+        <translation>Toegevoegd als &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Toegevoegd</translation>
+    </message>
+    <message>
+        <source>You have it already</source>
+        <translation>U hebt deze al</translation>
+    </message>
+    <message>
+        <source>Not imported, the name is taken</source>
+        <translation>Niet geïmporteerd, de naam is in gebruik</translation>
+    </message>
+    <message>
+        <source>Not imported</source>
+        <translation>Niet geïmporteerd</translation>
     </message>
 </context>
 <context>
@@ -85,6 +202,122 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::KitEntries</name>
+    <message>
+        <source>&amp;Manage Layouts...</source>
+        <translation>Indelingen &amp;beheren...</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutCommands</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>&quot;%1&quot; hernoemen naar &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; verwijderen</translation>
+    </message>
+    <message>
+        <source>Delete Layouts</source>
+        <translation>Indelingen verwijderen</translation>
+    </message>
+    <message>
+        <source>Duplicate &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; dupliceren</translation>
+    </message>
+    <message>
+        <source>Duplicate Layouts</source>
+        <translation>Indelingen dupliceren</translation>
+    </message>
+    <message>
+        <source>Move &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; verplaatsen</translation>
+    </message>
+    <message>
+        <source>Move Layouts</source>
+        <translation>Indelingen verplaatsen</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; importeren</translation>
+    </message>
+    <message>
+        <source>Imported from &quot;%1&quot;: %2</source>
+        <translation>Geïmporteerd uit &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>Exported to &quot;%1&quot;: %2</source>
+        <translation>Geëxporteerd naar &quot;%1&quot;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsDialog</name>
+    <message>
+        <source>Layouts</source>
+        <translation>Indelingen</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Ongedaan maken</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Opnieuw</translation>
+    </message>
+    <message>
+        <source>&amp;Switch</source>
+        <translation>&amp;Activeren</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Hernoemen</translation>
+    </message>
+    <message>
+        <source>Du&amp;plicate</source>
+        <translation>&amp;Dupliceren</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>V&amp;erwijderen</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>&amp;Omhoog</translation>
+    </message>
+    <message>
+        <source>Move D&amp;own</source>
+        <translation>O&amp;mlaag</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>E&amp;xporteren...</translation>
+    </message>
+    <message>
+        <source>Move to &amp;Group</source>
+        <translation>&amp;Naar groep verplaatsen</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importeren...</translation>
+    </message>
+    <message>
+        <source>Arranges the windows as in the chosen layout</source>
+        <translation>Schikt de vensters zoals in de gekozen indeling</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>Plaats %1</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsModel</name>
+    <message>
+        <source>Active</source>
+        <translation>Actief</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::Lock</name>
     <message>
         <source>Loc&amp;k Layout</source>
@@ -93,6 +326,13 @@
     <message>
         <source>Nothing can be moved, floated or closed by accident</source>
         <translation>Niets kan per ongeluk worden verplaatst, losgemaakt of gesloten</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::NameEdit</name>
+    <message>
+        <source>Name of the layout</source>
+        <translation>Naam van de indeling</translation>
     </message>
 </context>
 <context>
@@ -256,6 +496,32 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::DifferencesNow</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::ImportSource</name>
+    <message>
+        <source>Nothing in &quot;%1&quot; can be imported: %2</source>
+        <translation>Uit &quot;%1&quot; kan niets worden geïmporteerd: %2</translation>
+    </message>
+    <message>
+        <source>Damaged, so left out: %1.</source>
+        <translation>Beschadigd en daarom weggelaten: %1.</translation>
+    </message>
+    <message>
+        <source>Without their damaged parts: %1.</source>
+        <translation>Zonder de beschadigde delen: %1.</translation>
+    </message>
+    <message>
+        <source>Of groups that this program does not have, so left out: %1.</source>
+        <translation>Uit groepen die dit programma niet heeft en daarom weggelaten: %1.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::LayoutDocument</name>
     <message>
         <source>&quot;%1&quot; cannot be here in &quot;%2&quot;</source>
@@ -288,6 +554,21 @@
     <message>
         <source>The state in &quot;%1&quot; is not an even number of digits</source>
         <translation>De toestand in &quot;%1&quot; heeft geen even aantal cijfers</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::LayoutEdits</name>
+    <message>
+        <source>A layout needs a name.</source>
+        <translation>Een indeling heeft een naam nodig.</translation>
+    </message>
+    <message>
+        <source>A name cannot have control characters.</source>
+        <translation>Een naam kan geen besturingstekens bevatten.</translation>
+    </message>
+    <message>
+        <source>There is a layout of this name already.</source>
+        <translation>Er bestaat al een indeling met deze naam.</translation>
     </message>
 </context>
 <context>

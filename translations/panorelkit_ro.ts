@@ -28,6 +28,37 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::DetailsPane</name>
+    <message>
+        <source>&amp;What differs from the windows now:</source>
+        <translation>&amp;Diferențe față de ferestrele actuale:</translation>
+    </message>
+    <message>
+        <source>Sho&amp;rtcut slot:</source>
+        <translation>&amp;Poziția scurtăturii:</translation>
+    </message>
+    <message>
+        <source>What differs from the windows now</source>
+        <translation>Diferențe față de ferestrele actuale</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot;</source>
+        <translation>Imaginea lui &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Nothing. The windows look like this layout.</source>
+        <translation>Niciuna. Ferestrele arată ca în acest aranjament.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Niciuna</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -47,6 +78,92 @@
     <message>
         <source>&amp;Group</source>
         <translation>&amp;Grup</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportDialog</name>
+    <message>
+        <source>Yours of the same name:</source>
+        <translation>Al dumneavoastră cu același nume:</translation>
+    </message>
+    <message>
+        <source>The name is taken</source>
+        <translation>Numele este deja folosit</translation>
+    </message>
+    <message>
+        <source>Import Layouts</source>
+        <translation>Importă aranjamente</translation>
+    </message>
+    <message>
+        <source>&amp;Layouts in &quot;%1&quot;:</source>
+        <translation>&amp;Aranjamente din &quot;%1&quot;:</translation>
+    </message>
+    <message>
+        <source>Layouts of the file</source>
+        <translation>Aranjamentele fișierului</translation>
+    </message>
+    <message>
+        <source>In the file:</source>
+        <translation>În fișier:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep both</source>
+        <translation>&amp;Păstrează ambele</translation>
+    </message>
+    <message>
+        <source>&amp;Replace yours</source>
+        <translation>Înlocuiește-&amp;l pe al dumneavoastră</translation>
+    </message>
+    <message>
+        <source>&amp;Skip</source>
+        <translation>&amp;Omite</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Selectează tot</translation>
+    </message>
+    <message>
+        <source>Select &amp;None</source>
+        <translation>&amp;Deselectează tot</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importă</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot; in the file</source>
+        <translation>Imaginea lui &quot;%1&quot; din fișier</translation>
+    </message>
+    <message>
+        <source>Picture of your &quot;%1&quot;</source>
+        <translation>Imaginea aranjamentului dumneavoastră &quot;%1&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportModel</name>
+    <message>
+        <source>Replaces your layout of this name</source>
+        <translation>Înlocuiește aranjamentul dumneavoastră cu acest nume</translation>
+    </message>
+    <message>
+        <source>Added as &quot;%1&quot;</source>
+        <translation>Adăugat ca &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Adăugat</translation>
+    </message>
+    <message>
+        <source>You have it already</source>
+        <translation>Îl aveți deja</translation>
+    </message>
+    <message>
+        <source>Not imported, the name is taken</source>
+        <translation>Nu se importă, numele este folosit</translation>
+    </message>
+    <message>
+        <source>Not imported</source>
+        <translation>Nu se importă</translation>
     </message>
 </context>
 <context>
@@ -85,6 +202,122 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::KitEntries</name>
+    <message>
+        <source>&amp;Manage Layouts...</source>
+        <translation>G&amp;estionează aranjamentele...</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutCommands</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>Redenumește &quot;%1&quot; în &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>Șterge &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Delete Layouts</source>
+        <translation>Șterge aranjamente</translation>
+    </message>
+    <message>
+        <source>Duplicate &quot;%1&quot;</source>
+        <translation>Duplică &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Duplicate Layouts</source>
+        <translation>Duplică aranjamente</translation>
+    </message>
+    <message>
+        <source>Move &quot;%1&quot;</source>
+        <translation>Mută &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Move Layouts</source>
+        <translation>Mută aranjamente</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>Importă &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Imported from &quot;%1&quot;: %2</source>
+        <translation>Importat din &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>Exported to &quot;%1&quot;: %2</source>
+        <translation>Exportat în &quot;%1&quot;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsDialog</name>
+    <message>
+        <source>Layouts</source>
+        <translation>Aranjamente</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Desfă</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Refă</translation>
+    </message>
+    <message>
+        <source>&amp;Switch</source>
+        <translation>&amp;Activează</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Redenumește</translation>
+    </message>
+    <message>
+        <source>Du&amp;plicate</source>
+        <translation>D&amp;uplică</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>Ș&amp;terge</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>&amp;Mută în sus</translation>
+    </message>
+    <message>
+        <source>Move D&amp;own</source>
+        <translation>Mută în &amp;jos</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Exportă...</translation>
+    </message>
+    <message>
+        <source>Move to &amp;Group</source>
+        <translation>Mută în &amp;grupul</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importă...</translation>
+    </message>
+    <message>
+        <source>Arranges the windows as in the chosen layout</source>
+        <translation>Așază ferestrele ca în aranjamentul ales</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>Poziția %1</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsModel</name>
+    <message>
+        <source>Active</source>
+        <translation>Activ</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::Lock</name>
     <message>
         <source>Loc&amp;k Layout</source>
@@ -93,6 +326,13 @@
     <message>
         <source>Nothing can be moved, floated or closed by accident</source>
         <translation>Nimic nu poate fi mutat, desprins sau închis din greșeală</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::NameEdit</name>
+    <message>
+        <source>Name of the layout</source>
+        <translation>Numele aranjamentului</translation>
     </message>
 </context>
 <context>
@@ -256,6 +496,32 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::DifferencesNow</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::ImportSource</name>
+    <message>
+        <source>Nothing in &quot;%1&quot; can be imported: %2</source>
+        <translation>Nimic din &quot;%1&quot; nu poate fi importat: %2</translation>
+    </message>
+    <message>
+        <source>Damaged, so left out: %1.</source>
+        <translation>Deteriorat, deci omis: %1.</translation>
+    </message>
+    <message>
+        <source>Without their damaged parts: %1.</source>
+        <translation>Fără părțile lor deteriorate: %1.</translation>
+    </message>
+    <message>
+        <source>Of groups that this program does not have, so left out: %1.</source>
+        <translation>Din grupuri pe care acest program nu le are, deci omis: %1.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::LayoutDocument</name>
     <message>
         <source>&quot;%1&quot; cannot be here in &quot;%2&quot;</source>
@@ -288,6 +554,21 @@
     <message>
         <source>The state in &quot;%1&quot; is not an even number of digits</source>
         <translation>Starea din &quot;%1&quot; nu are un număr par de cifre</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::LayoutEdits</name>
+    <message>
+        <source>A layout needs a name.</source>
+        <translation>Un aranjament are nevoie de un nume.</translation>
+    </message>
+    <message>
+        <source>A name cannot have control characters.</source>
+        <translation>Un nume nu poate conține caractere de control.</translation>
+    </message>
+    <message>
+        <source>There is a layout of this name already.</source>
+        <translation>Există deja un aranjament cu acest nume.</translation>
     </message>
 </context>
 <context>

@@ -28,6 +28,37 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::DetailsPane</name>
+    <message>
+        <source>&amp;What differs from the windows now:</source>
+        <translation>&amp;Rozdiely oproti súčasným oknám:</translation>
+    </message>
+    <message>
+        <source>Sho&amp;rtcut slot:</source>
+        <translation>&amp;Pozícia skratky:</translation>
+    </message>
+    <message>
+        <source>What differs from the windows now</source>
+        <translation>Rozdiely oproti súčasným oknám</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot;</source>
+        <translation>Obrázok &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Nothing. The windows look like this layout.</source>
+        <translation>Žiadne. Okná vyzerajú ako toto rozloženie.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Žiadna</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -47,6 +78,92 @@
     <message>
         <source>&amp;Group</source>
         <translation>&amp;Skupina</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportDialog</name>
+    <message>
+        <source>Yours of the same name:</source>
+        <translation>Vaše s rovnakým názvom:</translation>
+    </message>
+    <message>
+        <source>The name is taken</source>
+        <translation>Názov sa už používa</translation>
+    </message>
+    <message>
+        <source>Import Layouts</source>
+        <translation>Importovať rozloženia</translation>
+    </message>
+    <message>
+        <source>&amp;Layouts in &quot;%1&quot;:</source>
+        <translation>&amp;Rozloženia v &quot;%1&quot;:</translation>
+    </message>
+    <message>
+        <source>Layouts of the file</source>
+        <translation>Rozloženia zo súboru</translation>
+    </message>
+    <message>
+        <source>In the file:</source>
+        <translation>V súbore:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep both</source>
+        <translation>&amp;Ponechať obe</translation>
+    </message>
+    <message>
+        <source>&amp;Replace yours</source>
+        <translation>&amp;Nahradiť vaše</translation>
+    </message>
+    <message>
+        <source>&amp;Skip</source>
+        <translation>Pr&amp;eskočiť</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Vybrať všetko</translation>
+    </message>
+    <message>
+        <source>Select &amp;None</source>
+        <translation>Nev&amp;ybrať nič</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importovať</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot; in the file</source>
+        <translation>Obrázok &quot;%1&quot; zo súboru</translation>
+    </message>
+    <message>
+        <source>Picture of your &quot;%1&quot;</source>
+        <translation>Obrázok vášho &quot;%1&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportModel</name>
+    <message>
+        <source>Replaces your layout of this name</source>
+        <translation>Nahradí vaše rozloženie s týmto názvom</translation>
+    </message>
+    <message>
+        <source>Added as &quot;%1&quot;</source>
+        <translation>Pridá sa ako &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Pridá sa</translation>
+    </message>
+    <message>
+        <source>You have it already</source>
+        <translation>Už ho máte</translation>
+    </message>
+    <message>
+        <source>Not imported, the name is taken</source>
+        <translation>Neimportuje sa, názov sa už používa</translation>
+    </message>
+    <message>
+        <source>Not imported</source>
+        <translation>Neimportuje sa</translation>
     </message>
 </context>
 <context>
@@ -85,6 +202,122 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::KitEntries</name>
+    <message>
+        <source>&amp;Manage Layouts...</source>
+        <translation>Spr&amp;avovať rozloženia...</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutCommands</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>Premenovať &quot;%1&quot; na &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>Odstrániť &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Delete Layouts</source>
+        <translation>Odstrániť rozloženia</translation>
+    </message>
+    <message>
+        <source>Duplicate &quot;%1&quot;</source>
+        <translation>Duplikovať &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Duplicate Layouts</source>
+        <translation>Duplikovať rozloženia</translation>
+    </message>
+    <message>
+        <source>Move &quot;%1&quot;</source>
+        <translation>Presunúť &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Move Layouts</source>
+        <translation>Presunúť rozloženia</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>Importovať &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Imported from &quot;%1&quot;: %2</source>
+        <translation>Importované z &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>Exported to &quot;%1&quot;: %2</source>
+        <translation>Exportované do &quot;%1&quot;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsDialog</name>
+    <message>
+        <source>Layouts</source>
+        <translation>Rozloženia</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Späť</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Znovu</translation>
+    </message>
+    <message>
+        <source>&amp;Switch</source>
+        <translation>Pr&amp;epnúť</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Pre&amp;menovať</translation>
+    </message>
+    <message>
+        <source>Du&amp;plicate</source>
+        <translation>&amp;Duplikovať</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Odstrániť</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Presunúť &amp;nahor</translation>
+    </message>
+    <message>
+        <source>Move D&amp;own</source>
+        <translation>Pre&amp;sunúť nadol</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>E&amp;xportovať...</translation>
+    </message>
+    <message>
+        <source>Move to &amp;Group</source>
+        <translation>Pres&amp;unúť do skupiny</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importovať...</translation>
+    </message>
+    <message>
+        <source>Arranges the windows as in the chosen layout</source>
+        <translation>Usporiada okná ako vo zvolenom rozložení</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>Pozícia %1</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsModel</name>
+    <message>
+        <source>Active</source>
+        <translation>Aktívne</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::Lock</name>
     <message>
         <source>Loc&amp;k Layout</source>
@@ -93,6 +326,13 @@
     <message>
         <source>Nothing can be moved, floated or closed by accident</source>
         <translation>Nič sa nedá omylom presunúť, uvoľniť ani zavrieť</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::NameEdit</name>
+    <message>
+        <source>Name of the layout</source>
+        <translation>Názov rozloženia</translation>
     </message>
 </context>
 <context>
@@ -256,6 +496,32 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::DifferencesNow</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::ImportSource</name>
+    <message>
+        <source>Nothing in &quot;%1&quot; can be imported: %2</source>
+        <translation>Z &quot;%1&quot; sa nedá nič importovať: %2</translation>
+    </message>
+    <message>
+        <source>Damaged, so left out: %1.</source>
+        <translation>Poškodené, preto vynechané: %1.</translation>
+    </message>
+    <message>
+        <source>Without their damaged parts: %1.</source>
+        <translation>Bez poškodených častí: %1.</translation>
+    </message>
+    <message>
+        <source>Of groups that this program does not have, so left out: %1.</source>
+        <translation>Zo skupín, ktoré tento program nemá, preto vynechané: %1.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::LayoutDocument</name>
     <message>
         <source>&quot;%1&quot; cannot be here in &quot;%2&quot;</source>
@@ -288,6 +554,21 @@
     <message>
         <source>The state in &quot;%1&quot; is not an even number of digits</source>
         <translation>Stav v &quot;%1&quot; nemá párny počet číslic</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::LayoutEdits</name>
+    <message>
+        <source>A layout needs a name.</source>
+        <translation>Rozloženie potrebuje názov.</translation>
+    </message>
+    <message>
+        <source>A name cannot have control characters.</source>
+        <translation>Názov nemôže obsahovať riadiace znaky.</translation>
+    </message>
+    <message>
+        <source>There is a layout of this name already.</source>
+        <translation>Rozloženie s týmto názvom už existuje.</translation>
     </message>
 </context>
 <context>

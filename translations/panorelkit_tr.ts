@@ -28,6 +28,37 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::DetailsPane</name>
+    <message>
+        <source>&amp;What differs from the windows now:</source>
+        <translation>Şu &amp;anki pencerelerden farkları:</translation>
+    </message>
+    <message>
+        <source>Sho&amp;rtcut slot:</source>
+        <translation>&amp;Kısayol yuvası:</translation>
+    </message>
+    <message>
+        <source>What differs from the windows now</source>
+        <translation>Şu anki pencerelerden farkları</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; resmi</translation>
+    </message>
+    <message>
+        <source>Nothing. The windows look like this layout.</source>
+        <translation>Yok. Pencereler bu yerleşimdeki gibi.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Yok</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -47,6 +78,92 @@
     <message>
         <source>&amp;Group</source>
         <translation>&amp;Grup</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportDialog</name>
+    <message>
+        <source>Yours of the same name:</source>
+        <translation>Sizin aynı adlı yerleşiminiz:</translation>
+    </message>
+    <message>
+        <source>The name is taken</source>
+        <translation>Bu ad kullanılıyor</translation>
+    </message>
+    <message>
+        <source>Import Layouts</source>
+        <translation>Yerleşimleri içe aktar</translation>
+    </message>
+    <message>
+        <source>&amp;Layouts in &quot;%1&quot;:</source>
+        <translation>&quot;%1&quot; &amp;içindeki yerleşimler:</translation>
+    </message>
+    <message>
+        <source>Layouts of the file</source>
+        <translation>Dosyadaki yerleşimler</translation>
+    </message>
+    <message>
+        <source>In the file:</source>
+        <translation>Dosyada:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep both</source>
+        <translation>İkisini &amp;de tut</translation>
+    </message>
+    <message>
+        <source>&amp;Replace yours</source>
+        <translation>&amp;Sizinkini değiştir</translation>
+    </message>
+    <message>
+        <source>&amp;Skip</source>
+        <translation>&amp;Atla</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Tümünü seç</translation>
+    </message>
+    <message>
+        <source>Select &amp;None</source>
+        <translation>&amp;Hiçbirini seçme</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>İç&amp;e aktar</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot; in the file</source>
+        <translation>Dosyadaki &quot;%1&quot; resmi</translation>
+    </message>
+    <message>
+        <source>Picture of your &quot;%1&quot;</source>
+        <translation>Sizin &quot;%1&quot; yerleşiminizin resmi</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportModel</name>
+    <message>
+        <source>Replaces your layout of this name</source>
+        <translation>Bu addaki yerleşiminizin yerine geçer</translation>
+    </message>
+    <message>
+        <source>Added as &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; olarak eklenir</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Eklenir</translation>
+    </message>
+    <message>
+        <source>You have it already</source>
+        <translation>Zaten var</translation>
+    </message>
+    <message>
+        <source>Not imported, the name is taken</source>
+        <translation>İçe aktarılmaz, ad kullanılıyor</translation>
+    </message>
+    <message>
+        <source>Not imported</source>
+        <translation>İçe aktarılmaz</translation>
     </message>
 </context>
 <context>
@@ -85,6 +202,122 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::KitEntries</name>
+    <message>
+        <source>&amp;Manage Layouts...</source>
+        <translation>Y&amp;erleşimleri yönet...</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutCommands</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>&quot;%1&quot; adını &quot;%2&quot; yap</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; sil</translation>
+    </message>
+    <message>
+        <source>Delete Layouts</source>
+        <translation>Yerleşimleri sil</translation>
+    </message>
+    <message>
+        <source>Duplicate &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; çoğalt</translation>
+    </message>
+    <message>
+        <source>Duplicate Layouts</source>
+        <translation>Yerleşimleri çoğalt</translation>
+    </message>
+    <message>
+        <source>Move &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; taşı</translation>
+    </message>
+    <message>
+        <source>Move Layouts</source>
+        <translation>Yerleşimleri taşı</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; içe aktar</translation>
+    </message>
+    <message>
+        <source>Imported from &quot;%1&quot;: %2</source>
+        <translation>&quot;%1&quot; dosyasından içe aktarıldı: %2</translation>
+    </message>
+    <message>
+        <source>Exported to &quot;%1&quot;: %2</source>
+        <translation>&quot;%1&quot; dosyasına dışa aktarıldı: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsDialog</name>
+    <message>
+        <source>Layouts</source>
+        <translation>Yerleşimler</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Geri al</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Yinele</translation>
+    </message>
+    <message>
+        <source>&amp;Switch</source>
+        <translation>&amp;Geç</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Yeniden adlandır</translation>
+    </message>
+    <message>
+        <source>Du&amp;plicate</source>
+        <translation>Ç&amp;oğalt</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Sil</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Yukarı &amp;taşı</translation>
+    </message>
+    <message>
+        <source>Move D&amp;own</source>
+        <translation>A&amp;şağı taşı</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Dışa aktar...</translation>
+    </message>
+    <message>
+        <source>Move to &amp;Group</source>
+        <translation>G&amp;ruba taşı</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>İç&amp;e aktar...</translation>
+    </message>
+    <message>
+        <source>Arranges the windows as in the chosen layout</source>
+        <translation>Pencereleri seçili yerleşimdeki gibi düzenler</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>Yuva %1</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsModel</name>
+    <message>
+        <source>Active</source>
+        <translation>Etkin</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::Lock</name>
     <message>
         <source>Loc&amp;k Layout</source>
@@ -93,6 +326,13 @@
     <message>
         <source>Nothing can be moved, floated or closed by accident</source>
         <translation>Hiçbir şey yanlışlıkla taşınamaz, ayrılamaz veya kapatılamaz</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::NameEdit</name>
+    <message>
+        <source>Name of the layout</source>
+        <translation>Yerleşimin adı</translation>
     </message>
 </context>
 <context>
@@ -256,6 +496,32 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::DifferencesNow</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::ImportSource</name>
+    <message>
+        <source>Nothing in &quot;%1&quot; can be imported: %2</source>
+        <translation>&quot;%1&quot; içinden hiçbir şey içe aktarılamaz: %2</translation>
+    </message>
+    <message>
+        <source>Damaged, so left out: %1.</source>
+        <translation>Hasarlı olduğu için dışarıda bırakıldı: %1.</translation>
+    </message>
+    <message>
+        <source>Without their damaged parts: %1.</source>
+        <translation>Hasarlı bölümleri olmadan: %1.</translation>
+    </message>
+    <message>
+        <source>Of groups that this program does not have, so left out: %1.</source>
+        <translation>Bu programda olmayan gruplardan olduğu için dışarıda bırakıldı: %1.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::LayoutDocument</name>
     <message>
         <source>&quot;%1&quot; cannot be here in &quot;%2&quot;</source>
@@ -288,6 +554,21 @@
     <message>
         <source>The state in &quot;%1&quot; is not an even number of digits</source>
         <translation>&quot;%1&quot; içindeki durumun basamak sayısı çift değil</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::LayoutEdits</name>
+    <message>
+        <source>A layout needs a name.</source>
+        <translation>Yerleşimin bir adı olmalı.</translation>
+    </message>
+    <message>
+        <source>A name cannot have control characters.</source>
+        <translation>Bir adda denetim karakterleri olamaz.</translation>
+    </message>
+    <message>
+        <source>There is a layout of this name already.</source>
+        <translation>Bu adda bir yerleşim zaten var.</translation>
     </message>
 </context>
 <context>

@@ -28,6 +28,37 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::DetailsPane</name>
+    <message>
+        <source>&amp;What differs from the windows now:</source>
+        <translation>&amp;Відмінності від поточних вікон:</translation>
+    </message>
+    <message>
+        <source>Sho&amp;rtcut slot:</source>
+        <translation>&amp;Комірка скорочення:</translation>
+    </message>
+    <message>
+        <source>What differs from the windows now</source>
+        <translation>Відмінності від поточних вікон</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot;</source>
+        <translation>Зображення &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Nothing. The windows look like this layout.</source>
+        <translation>Немає. Вікна виглядають як у цьому компонуванні.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Немає</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -47,6 +78,92 @@
     <message>
         <source>&amp;Group</source>
         <translation>&amp;Група</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportDialog</name>
+    <message>
+        <source>Yours of the same name:</source>
+        <translation>Ваше з такою самою назвою:</translation>
+    </message>
+    <message>
+        <source>The name is taken</source>
+        <translation>Назву вже зайнято</translation>
+    </message>
+    <message>
+        <source>Import Layouts</source>
+        <translation>Імпорт компонувань</translation>
+    </message>
+    <message>
+        <source>&amp;Layouts in &quot;%1&quot;:</source>
+        <translation>&amp;Компонування у &quot;%1&quot;:</translation>
+    </message>
+    <message>
+        <source>Layouts of the file</source>
+        <translation>Компонування з файлу</translation>
+    </message>
+    <message>
+        <source>In the file:</source>
+        <translation>У файлі:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep both</source>
+        <translation>&amp;Залишити обидва</translation>
+    </message>
+    <message>
+        <source>&amp;Replace yours</source>
+        <translation>Замінити &amp;ваше</translation>
+    </message>
+    <message>
+        <source>&amp;Skip</source>
+        <translation>&amp;Пропустити</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>В&amp;ибрати все</translation>
+    </message>
+    <message>
+        <source>Select &amp;None</source>
+        <translation>З&amp;няти вибір</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Імпортувати</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot; in the file</source>
+        <translation>Зображення &quot;%1&quot; з файлу</translation>
+    </message>
+    <message>
+        <source>Picture of your &quot;%1&quot;</source>
+        <translation>Зображення вашого &quot;%1&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportModel</name>
+    <message>
+        <source>Replaces your layout of this name</source>
+        <translation>Замінить ваше компонування з цією назвою</translation>
+    </message>
+    <message>
+        <source>Added as &quot;%1&quot;</source>
+        <translation>Буде додано як &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Буде додано</translation>
+    </message>
+    <message>
+        <source>You have it already</source>
+        <translation>Уже є у вас</translation>
+    </message>
+    <message>
+        <source>Not imported, the name is taken</source>
+        <translation>Не буде імпортовано, назву зайнято</translation>
+    </message>
+    <message>
+        <source>Not imported</source>
+        <translation>Не буде імпортовано</translation>
     </message>
 </context>
 <context>
@@ -85,6 +202,122 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::KitEntries</name>
+    <message>
+        <source>&amp;Manage Layouts...</source>
+        <translation>&amp;Керування компонуваннями...</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutCommands</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>Перейменувати &quot;%1&quot; на &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>Вилучити &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Delete Layouts</source>
+        <translation>Вилучити компонування</translation>
+    </message>
+    <message>
+        <source>Duplicate &quot;%1&quot;</source>
+        <translation>Дублювати &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Duplicate Layouts</source>
+        <translation>Дублювати компонування</translation>
+    </message>
+    <message>
+        <source>Move &quot;%1&quot;</source>
+        <translation>Перемістити &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Move Layouts</source>
+        <translation>Перемістити компонування</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>Імпортувати &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Imported from &quot;%1&quot;: %2</source>
+        <translation>Імпортовано з &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>Exported to &quot;%1&quot;: %2</source>
+        <translation>Експортовано до &quot;%1&quot;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsDialog</name>
+    <message>
+        <source>Layouts</source>
+        <translation>Компонування</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Скасувати</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Повторити</translation>
+    </message>
+    <message>
+        <source>&amp;Switch</source>
+        <translation>&amp;Перемкнути</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>П&amp;ерейменувати</translation>
+    </message>
+    <message>
+        <source>Du&amp;plicate</source>
+        <translation>&amp;Дублювати</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>В&amp;илучити</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Пе&amp;ремістити вгору</translation>
+    </message>
+    <message>
+        <source>Move D&amp;own</source>
+        <translation>Пере&amp;містити вниз</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>Ек&amp;спорт...</translation>
+    </message>
+    <message>
+        <source>Move to &amp;Group</source>
+        <translation>Перемістити до &amp;групи</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Імпорт...</translation>
+    </message>
+    <message>
+        <source>Arranges the windows as in the chosen layout</source>
+        <translation>Розташувати вікна як у вибраному компонуванні</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>Комірка %1</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsModel</name>
+    <message>
+        <source>Active</source>
+        <translation>Активне</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::Lock</name>
     <message>
         <source>Loc&amp;k Layout</source>
@@ -93,6 +326,13 @@
     <message>
         <source>Nothing can be moved, floated or closed by accident</source>
         <translation>Нічого не можна випадково перемістити, відкріпити чи закрити</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::NameEdit</name>
+    <message>
+        <source>Name of the layout</source>
+        <translation>Назва компонування</translation>
     </message>
 </context>
 <context>
@@ -256,6 +496,32 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::DifferencesNow</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::ImportSource</name>
+    <message>
+        <source>Nothing in &quot;%1&quot; can be imported: %2</source>
+        <translation>З &quot;%1&quot; нічого не можна імпортувати: %2</translation>
+    </message>
+    <message>
+        <source>Damaged, so left out: %1.</source>
+        <translation>Пошкоджено й тому пропущено: %1.</translation>
+    </message>
+    <message>
+        <source>Without their damaged parts: %1.</source>
+        <translation>Без пошкоджених частин: %1.</translation>
+    </message>
+    <message>
+        <source>Of groups that this program does not have, so left out: %1.</source>
+        <translation>Із груп, яких немає в цій програмі, тому пропущено: %1.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::LayoutDocument</name>
     <message>
         <source>&quot;%1&quot; cannot be here in &quot;%2&quot;</source>
@@ -288,6 +554,21 @@
     <message>
         <source>The state in &quot;%1&quot; is not an even number of digits</source>
         <translation>Стан у &quot;%1&quot; має непарну кількість цифр</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::LayoutEdits</name>
+    <message>
+        <source>A layout needs a name.</source>
+        <translation>Компонуванню потрібна назва.</translation>
+    </message>
+    <message>
+        <source>A name cannot have control characters.</source>
+        <translation>Назва не може містити керівних символів.</translation>
+    </message>
+    <message>
+        <source>There is a layout of this name already.</source>
+        <translation>Компонування з такою назвою вже є.</translation>
     </message>
 </context>
 <context>

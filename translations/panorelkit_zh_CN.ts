@@ -28,6 +28,37 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::DetailsPane</name>
+    <message>
+        <source>&amp;What differs from the windows now:</source>
+        <translation>与当前窗口的差异(&amp;W)：</translation>
+    </message>
+    <message>
+        <source>Sho&amp;rtcut slot:</source>
+        <translation>快捷键槽位(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>What differs from the windows now</source>
+        <translation>与当前窗口的差异</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; 的图片</translation>
+    </message>
+    <message>
+        <source>Nothing. The windows look like this layout.</source>
+        <translation>无。窗口与此布局相同。</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -47,6 +78,92 @@
     <message>
         <source>&amp;Group</source>
         <translation>组(&amp;G)</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportDialog</name>
+    <message>
+        <source>Yours of the same name:</source>
+        <translation>您的同名布局：</translation>
+    </message>
+    <message>
+        <source>The name is taken</source>
+        <translation>名称已被占用</translation>
+    </message>
+    <message>
+        <source>Import Layouts</source>
+        <translation>导入布局</translation>
+    </message>
+    <message>
+        <source>&amp;Layouts in &quot;%1&quot;:</source>
+        <translation>&quot;%1&quot; 中的布局(&amp;L)：</translation>
+    </message>
+    <message>
+        <source>Layouts of the file</source>
+        <translation>文件中的布局</translation>
+    </message>
+    <message>
+        <source>In the file:</source>
+        <translation>文件中：</translation>
+    </message>
+    <message>
+        <source>&amp;Keep both</source>
+        <translation>保留两者(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;Replace yours</source>
+        <translation>替换您的布局(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Skip</source>
+        <translation>跳过(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>全选(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Select &amp;None</source>
+        <translation>全不选(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>导入(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot; in the file</source>
+        <translation>文件中 &quot;%1&quot; 的图片</translation>
+    </message>
+    <message>
+        <source>Picture of your &quot;%1&quot;</source>
+        <translation>您的 &quot;%1&quot; 的图片</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportModel</name>
+    <message>
+        <source>Replaces your layout of this name</source>
+        <translation>替换您的同名布局</translation>
+    </message>
+    <message>
+        <source>Added as &quot;%1&quot;</source>
+        <translation>添加为 &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>You have it already</source>
+        <translation>已存在</translation>
+    </message>
+    <message>
+        <source>Not imported, the name is taken</source>
+        <translation>不导入，名称已被占用</translation>
+    </message>
+    <message>
+        <source>Not imported</source>
+        <translation>不导入</translation>
     </message>
 </context>
 <context>
@@ -85,6 +202,122 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::KitEntries</name>
+    <message>
+        <source>&amp;Manage Layouts...</source>
+        <translation>管理布局(&amp;M)...</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutCommands</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>将 &quot;%1&quot; 重命名为 &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>删除 &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Delete Layouts</source>
+        <translation>删除布局</translation>
+    </message>
+    <message>
+        <source>Duplicate &quot;%1&quot;</source>
+        <translation>复制 &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Duplicate Layouts</source>
+        <translation>复制布局</translation>
+    </message>
+    <message>
+        <source>Move &quot;%1&quot;</source>
+        <translation>移动 &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Move Layouts</source>
+        <translation>移动布局</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>导入 &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Imported from &quot;%1&quot;: %2</source>
+        <translation>已从 &quot;%1&quot; 导入：%2</translation>
+    </message>
+    <message>
+        <source>Exported to &quot;%1&quot;: %2</source>
+        <translation>已导出到 &quot;%1&quot;：%2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsDialog</name>
+    <message>
+        <source>Layouts</source>
+        <translation>布局</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
+        <source>&amp;Switch</source>
+        <translation>切换(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>重命名(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Du&amp;plicate</source>
+        <translation>复制(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>上移(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Move D&amp;own</source>
+        <translation>下移(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>导出(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>Move to &amp;Group</source>
+        <translation>移动到组(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>导入(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>Arranges the windows as in the chosen layout</source>
+        <translation>按所选布局排列窗口</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>槽位 %1</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsModel</name>
+    <message>
+        <source>Active</source>
+        <translation>活动</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::Lock</name>
     <message>
         <source>Loc&amp;k Layout</source>
@@ -93,6 +326,13 @@
     <message>
         <source>Nothing can be moved, floated or closed by accident</source>
         <translation>不会意外移动、浮动或关闭任何内容</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::NameEdit</name>
+    <message>
+        <source>Name of the layout</source>
+        <translation>布局的名称</translation>
     </message>
 </context>
 <context>
@@ -256,6 +496,32 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::DifferencesNow</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::ImportSource</name>
+    <message>
+        <source>Nothing in &quot;%1&quot; can be imported: %2</source>
+        <translation>无法从 &quot;%1&quot; 导入任何内容：%2</translation>
+    </message>
+    <message>
+        <source>Damaged, so left out: %1.</source>
+        <translation>已损坏，因此被忽略：%1。</translation>
+    </message>
+    <message>
+        <source>Without their damaged parts: %1.</source>
+        <translation>不含其损坏的部分：%1。</translation>
+    </message>
+    <message>
+        <source>Of groups that this program does not have, so left out: %1.</source>
+        <translation>属于本程序没有的组，因此被忽略：%1。</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::LayoutDocument</name>
     <message>
         <source>&quot;%1&quot; cannot be here in &quot;%2&quot;</source>
@@ -288,6 +554,21 @@
     <message>
         <source>The state in &quot;%1&quot; is not an even number of digits</source>
         <translation>&quot;%1&quot; 中的状态的位数不是偶数</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::LayoutEdits</name>
+    <message>
+        <source>A layout needs a name.</source>
+        <translation>布局需要名称。</translation>
+    </message>
+    <message>
+        <source>A name cannot have control characters.</source>
+        <translation>名称不能包含控制字符。</translation>
+    </message>
+    <message>
+        <source>There is a layout of this name already.</source>
+        <translation>已有同名的布局。</translation>
     </message>
 </context>
 <context>

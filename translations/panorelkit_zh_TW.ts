@@ -28,6 +28,37 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::DetailsPane</name>
+    <message>
+        <source>&amp;What differs from the windows now:</source>
+        <translation>與目前視窗的差異(&amp;W)：</translation>
+    </message>
+    <message>
+        <source>Sho&amp;rtcut slot:</source>
+        <translation>快速鍵位置(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>What differs from the windows now</source>
+        <translation>與目前視窗的差異</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; 的圖片</translation>
+    </message>
+    <message>
+        <source>Nothing. The windows look like this layout.</source>
+        <translation>無。視窗與此版面配置相同。</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>無</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::FileEntries</name>
     <message>
         <source>Writes all layouts to a file</source>
@@ -47,6 +78,92 @@
     <message>
         <source>&amp;Group</source>
         <translation>群組(&amp;G)</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportDialog</name>
+    <message>
+        <source>Yours of the same name:</source>
+        <translation>您的同名版面配置：</translation>
+    </message>
+    <message>
+        <source>The name is taken</source>
+        <translation>名稱已被使用</translation>
+    </message>
+    <message>
+        <source>Import Layouts</source>
+        <translation>匯入版面配置</translation>
+    </message>
+    <message>
+        <source>&amp;Layouts in &quot;%1&quot;:</source>
+        <translation>&quot;%1&quot; 中的版面配置(&amp;L)：</translation>
+    </message>
+    <message>
+        <source>Layouts of the file</source>
+        <translation>檔案中的版面配置</translation>
+    </message>
+    <message>
+        <source>In the file:</source>
+        <translation>檔案中：</translation>
+    </message>
+    <message>
+        <source>&amp;Keep both</source>
+        <translation>兩者皆保留(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;Replace yours</source>
+        <translation>取代您的版面配置(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Skip</source>
+        <translation>略過(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>全選(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Select &amp;None</source>
+        <translation>全不選(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>匯入(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Picture of &quot;%1&quot; in the file</source>
+        <translation>檔案中 &quot;%1&quot; 的圖片</translation>
+    </message>
+    <message>
+        <source>Picture of your &quot;%1&quot;</source>
+        <translation>您的 &quot;%1&quot; 的圖片</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::ImportModel</name>
+    <message>
+        <source>Replaces your layout of this name</source>
+        <translation>取代您的同名版面配置</translation>
+    </message>
+    <message>
+        <source>Added as &quot;%1&quot;</source>
+        <translation>加入為 &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>加入</translation>
+    </message>
+    <message>
+        <source>You have it already</source>
+        <translation>已經存在</translation>
+    </message>
+    <message>
+        <source>Not imported, the name is taken</source>
+        <translation>不匯入，名稱已被使用</translation>
+    </message>
+    <message>
+        <source>Not imported</source>
+        <translation>不匯入</translation>
     </message>
 </context>
 <context>
@@ -85,6 +202,122 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::KitEntries</name>
+    <message>
+        <source>&amp;Manage Layouts...</source>
+        <translation>管理版面配置(&amp;M)...</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutCommands</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>將 &quot;%1&quot; 重新命名為 &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>刪除 &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Delete Layouts</source>
+        <translation>刪除版面配置</translation>
+    </message>
+    <message>
+        <source>Duplicate &quot;%1&quot;</source>
+        <translation>複製 &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Duplicate Layouts</source>
+        <translation>複製版面配置</translation>
+    </message>
+    <message>
+        <source>Move &quot;%1&quot;</source>
+        <translation>移動 &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Move Layouts</source>
+        <translation>移動版面配置</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>匯入 &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Imported from &quot;%1&quot;: %2</source>
+        <translation>已從 &quot;%1&quot; 匯入：%2</translation>
+    </message>
+    <message>
+        <source>Exported to &quot;%1&quot;: %2</source>
+        <translation>已匯出至 &quot;%1&quot;：%2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsDialog</name>
+    <message>
+        <source>Layouts</source>
+        <translation>版面配置</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>復原</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>取消復原</translation>
+    </message>
+    <message>
+        <source>&amp;Switch</source>
+        <translation>切換(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>重新命名(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Du&amp;plicate</source>
+        <translation>複製(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>刪除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>上移(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Move D&amp;own</source>
+        <translation>下移(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>匯出(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>Move to &amp;Group</source>
+        <translation>移至群組(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>匯入(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>Arranges the windows as in the chosen layout</source>
+        <translation>依所選的版面配置排列視窗</translation>
+    </message>
+    <message>
+        <source>Slot %1</source>
+        <translation>位置 %1</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::LayoutsModel</name>
+    <message>
+        <source>Active</source>
+        <translation>使用中</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::Lock</name>
     <message>
         <source>Loc&amp;k Layout</source>
@@ -93,6 +326,13 @@
     <message>
         <source>Nothing can be moved, floated or closed by accident</source>
         <translation>不會意外移動、浮動或關閉任何項目</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::Detail::NameEdit</name>
+    <message>
+        <source>Name of the layout</source>
+        <translation>版面配置的名稱</translation>
     </message>
 </context>
 <context>
@@ -256,6 +496,32 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::DifferencesNow</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::ImportSource</name>
+    <message>
+        <source>Nothing in &quot;%1&quot; can be imported: %2</source>
+        <translation>無法從 &quot;%1&quot; 匯入任何項目：%2</translation>
+    </message>
+    <message>
+        <source>Damaged, so left out: %1.</source>
+        <translation>已損毀，因此略過：%1。</translation>
+    </message>
+    <message>
+        <source>Without their damaged parts: %1.</source>
+        <translation>不含損毀的部分：%1。</translation>
+    </message>
+    <message>
+        <source>Of groups that this program does not have, so left out: %1.</source>
+        <translation>屬於此程式沒有的群組，因此略過：%1。</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::LayoutDocument</name>
     <message>
         <source>&quot;%1&quot; cannot be here in &quot;%2&quot;</source>
@@ -288,6 +554,21 @@
     <message>
         <source>The state in &quot;%1&quot; is not an even number of digits</source>
         <translation>&quot;%1&quot; 中狀態的位數不是偶數</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::LayoutEdits</name>
+    <message>
+        <source>A layout needs a name.</source>
+        <translation>版面配置需要名稱。</translation>
+    </message>
+    <message>
+        <source>A name cannot have control characters.</source>
+        <translation>名稱不能包含控制字元。</translation>
+    </message>
+    <message>
+        <source>There is a layout of this name already.</source>
+        <translation>已有同名的版面配置。</translation>
     </message>
 </context>
 <context>
