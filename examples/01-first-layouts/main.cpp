@@ -46,7 +46,8 @@ int main(int argc, char* argv[])
         if (!file.open(QIODevice::WriteOnly))
             return;
         file.write(manager.toXml(/*markActive=*/true)); // and those of this one.
-        file.commit();
+        if (file.flush())                               // A full disk does not harm the old file.
+            file.commit();
     });
     return QApplication::exec();
 }

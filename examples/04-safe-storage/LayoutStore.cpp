@@ -66,7 +66,7 @@ QString LayoutStore::save(Panorel::Manager& manager)
     QSaveFile file(m_fileName);
     if (file.open(QIODevice::WriteOnly)) {
         file.write(manager.toXml(/*markActive=*/true));
-        if (file.commit())
+        if (file.flush() && file.commit()) // Alone, commit() does not notice a full disk.
             return QString();
     }
     return tr("The layouts could not be saved in %1: %2").arg(readable(), file.errorString());

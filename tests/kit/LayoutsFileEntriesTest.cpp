@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "ui/FileDialogUser.h"
 
+#ifdef Q_OS_UNIX
+#include "FullDisk.h"
+#endif
+
 #include <panorel/Manager.h>
 #include <panorel/kit/Layouts.h>
 
@@ -25,6 +29,7 @@ class LayoutsFileEntriesTest : public QObject
 private Q_SLOTS:
     void exportCompletesTheName();
     void exportReplacesTheFileWhole();
+    void exportToAFullDiskLeavesTheFile();
     void importReplaces();
     void importAndMergeAdds();
     void importOfSomethingElseChangesNothing();
@@ -107,6 +112,25 @@ void LayoutsFileEntriesTest::exportReplacesTheFileWhole()
     write("old.views", QByteArray(100000, 'x'));
     QVERIFY(f.use(QStringLiteral("Export ..."), path("old.views"), QMessageBox::Yes));
     QCOMPARE(read("old.views"), f.manager.toXml(/*markActive=*/false));
+}
+
+void LayoutsFileEntriesTest::exportToAFullDiskLeavesTheFile()
+{
+#ifdef Q_OS_UNIX
+    Fixture f;
+    const QByteArray before(2000, 'x');
+    write("old.views", before);
+    {
+        const Tests::FullDisk disk(100);
+        QVERIFY(f.use(QStringLiteral("Export ..."), path("old.views"), QMessageBox::Yes));
+    }
+    QCOMPARE(read("old.views"), before);
+    QCOMPARE(f.messages.count(), 1);
+    QVERIFY(f.messages.at(0).at(0).toString().startsWith(
+        QStringLiteral("\"old.views\" cannot be written: ")));
+#else
+    QSKIP("The size of files cannot be limited.");
+#endif
 }
 
 void LayoutsFileEntriesTest::importReplaces()

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "Storage.h"
 
+#include "../value/WholeFile.h"
+
 #include <panorel/kit/LayoutFile.h>
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 namespace Panorel::Kit::Detail {
@@ -62,24 +63,20 @@ QByteArray Storage::read(QString* problem) const
 QString Storage::write(const QByteArray& content)
 {
     (void)QDir().mkpath(QFileInfo(m_fileName).absolutePath()); // If it fails, so does open().
-    QSaveFile file(m_fileName);
-    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
-        return QString();
-    return file.errorString();
+    return writeWholeFile(m_fileName, content);
 }
 
 void Storage::keepCopy(const QByteArray& content) const
 {
     if (newestCopy() == content)
         return;
-    QSaveFile newest(copyName(1) + QStringLiteral(".new"));
-    if (!newest.open(QIODevice::WriteOnly) || newest.write(content) != content.size() ||
-        !newest.commit())
+    const QString newest = copyName(1) + QStringLiteral(".new");
+    if (!writeWholeFile(newest, content).isNull())
         return;
     (void)QFile::remove(copyName(copies));
     for (int number = copies; number > 1; --number)
         (void)QFile::rename(copyName(number - 1), copyName(number));
-    (void)QFile::rename(newest.fileName(), copyName(1));
+    (void)QFile::rename(newest, copyName(1));
 }
 
 QByteArray Storage::newestCopy() const

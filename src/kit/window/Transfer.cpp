@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "Transfer.h"
 
+#include "../value/WholeFile.h"
+
 #include <panorel/Manager.h>
 #include <panorel/kit/LayoutFile.h>
 
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <utility>
@@ -33,10 +34,9 @@ QString Transfer::write(const QString& fileName, const QByteArray& document)
     // Writing to a pipe or a device may never end, and nothing can be put in its place.
     if (info.exists() && !info.isFile())
         return tr("\"%1\" is not a file.").arg(name);
-    QSaveFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly) || file.write(document) != document.size() ||
-        !file.commit())
-        return tr("\"%1\" cannot be written: %2").arg(name, file.errorString());
+    const QString problem = writeWholeFile(fileName, document);
+    if (!problem.isNull())
+        return tr("\"%1\" cannot be written: %2").arg(name, problem);
     return QString();
 }
 
