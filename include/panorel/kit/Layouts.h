@@ -94,6 +94,10 @@ public:
      * used in its place. One of another version stays, and changes nothing, until there are
      * layouts to save; then it is renamed too. Layouts that another program has saved in it
      * meanwhile are taken over; one that both have changed is kept twice.
+     *
+     * A Manager that is deleted first takes what it was told in the last half second with it, such
+     * as a new layout; not so the windows' arrangement, and nothing if it is deleted by
+     * deleteLater(). save() before that keeps all.
      * @param fileName where; an empty one is "layouts.views" in the usual folder,
      * QStandardPaths::AppDataLocation.
      */

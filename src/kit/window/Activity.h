@@ -38,6 +38,8 @@ public:
 
     /** Whether the Manager was made with mergeOnApply. */
     bool merges() const { return m_merges; }
+    /** The group that is active, or was when the Manager was destroyed. */
+    QString group() const { return m_group; }
 
 Q_SIGNALS:
     /** The Manager is about to capture the windows, or to restore what they show already. */

@@ -22,6 +22,7 @@ namespace Panorel::Kit::Detail {
 namespace {
 
 constexpr auto version = "1.1.0";
+const QLatin1String groupKey("group");
 // After the first change; what comes meanwhile is saved with it.
 constexpr int savingDelay = 500;
 // While the file cannot be written.
@@ -56,6 +57,12 @@ bool tidy(Snapshot& snapshot)
     return dropped;
 }
 
+bool isOurs(const QByteArray& bytes)
+{
+    const LayoutDocument document(bytes);
+    return document.isReadable() && document.version() == QLatin1String(version);
+}
+
 bool hasViews(const Snapshot& snapshot)
 {
     return std::any_of(snapshot.groups.cbegin(), snapshot.groups.cend(),
@@ -74,6 +81,8 @@ Keeper::Keeper(Manager& manager, WindowOwner& owner, StoredViews& stored, Activi
 {
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &Keeper::save);
+    connect(&m_activity, &Activity::changed, this, [this] { m_viewsChanged = true; });
+    manager.installEventFilter(this);
 }
 
 Keeper::~Keeper()
@@ -84,6 +93,7 @@ Keeper::~Keeper()
 void Keeper::start(const QString& fileName)
 {
     m_storage = std::make_unique<Storage>(fileName);
+    m_name = m_storage->readableName();
     m_windows.update();
     load();
     Q_EMIT loaded();
@@ -101,6 +111,33 @@ void Keeper::stop()
 {
     m_storage.reset();
     m_timer.stop();
+}
+
+void Keeper::finish()
+{
+    const StateMap states = m_windows.states();
+    noteSettings();
+    Snapshot snapshot = Snapshot::fromXml(m_known);
+    if (m_storage && !isSaved(states) && snapshot.find(m_activity.group())) {
+        noteWindows(snapshot, states);
+        const Storage::Lock lock(*m_storage);
+        QString problem;
+        const QByteArray bytes = m_storage->read(&problem);
+        if (bytes != m_known && isOurs(bytes))
+            snapshot =
+                Snapshot::merged(Snapshot::fromXml(m_known), snapshot, Snapshot::fromXml(bytes));
+        if (problem.isEmpty() && (bytes.isNull() || isOurs(bytes)))
+            (void)write(snapshot.toXml()); // A failure has been reported.
+    }
+    stop();
+}
+
+// It is still whole then, unlike when it is deleted at once.
+bool Keeper::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == &m_manager && event->type() == QEvent::DeferredDelete)
+        (void)save(); // A failure has been reported.
+    return false;
 }
 
 void Keeper::set(const QString& key, const QJsonValue& value)
@@ -124,7 +161,7 @@ void Keeper::load()
             m_isOtherVersion = true;
             tell(tr("The layouts in %1 are of another version of this program. They stay as they "
                     "are.")
-                     .arg(m_storage->readableName()));
+                     .arg(m_name));
             return;
         }
         if (document.isReadable()) {
@@ -135,8 +172,8 @@ void Keeper::load()
         }
         problem = tr("It is damaged.");
     }
-    moveAway(problem);
     bytes = m_storage->newestCopy();
+    moveAway(problem);
     if (LayoutDocument(bytes).isReadable())
         takeOver(bytes);
 }
@@ -145,12 +182,11 @@ void Keeper::takeOver(const QByteArray& document)
 {
     Snapshot snapshot = Snapshot::fromXml(document);
     if (tidy(snapshot))
-        tell(tr("Some of the layouts in %1 are damaged and were left out.")
-                 .arg(m_storage->readableName()));
+        tell(tr("Some of the layouts in %1 are damaged and were left out.").arg(m_name));
     giveToManager(snapshot);
     if (!snapshot.groups.isEmpty())
         m_settings = Geometries::settingsIn(snapshot.groups.constFirst().current.userData);
-    const QString group = m_settings.value(QLatin1String("group")).toString();
+    const QString group = m_settings.value(groupKey).toString();
     if (group != m_manager.activeGroup()) {
         const WindowOwner::Silence silence(m_owner);
         (void)m_manager.activateGroup(group); // One that is gone is not activated.
@@ -168,7 +204,7 @@ void Keeper::giveToManager(const Snapshot& snapshot)
     m_stored.read(snapshot);
 }
 
-Snapshot Keeper::current()
+Snapshot Keeper::current(const StateMap& states)
 {
     Snapshot snapshot;
     {
@@ -176,15 +212,29 @@ Snapshot Keeper::current()
         snapshot = Snapshot::fromXml(m_manager.toXml(/*markActive=*/true));
     }
     m_stored.read(snapshot);
-    if (Snapshot::Group* const active = snapshot.find(m_manager.activeGroup()))
-        active->current.states = m_windows.states();
-    if (m_activity.merges())
-        snapshot.toolBarStates = m_windows.states();
+    noteWindows(snapshot, states);
+    return snapshot;
+}
+
+void Keeper::noteSettings()
+{
     Geometries::write(m_settings, m_windows.geometries());
-    m_settings.insert(QLatin1String("group"), m_manager.activeGroup());
+    m_settings.insert(groupKey, m_activity.group());
+}
+
+void Keeper::noteWindows(Snapshot& snapshot, const StateMap& states) const
+{
+    if (Snapshot::Group* const active = snapshot.find(m_activity.group()))
+        active->current.states = states;
+    if (m_activity.merges())
+        snapshot.toolBarStates = states;
     QString& userData = snapshot.groups.first().current.userData;
     userData = Geometries::withSettings(userData, m_settings);
-    return snapshot;
+}
+
+bool Keeper::isSaved(const StateMap& states) const
+{
+    return states == m_savedStates && m_settings == m_savedSettings;
 }
 
 bool Keeper::save()
@@ -192,14 +242,27 @@ bool Keeper::save()
     m_timer.stop();
     if (!m_storage)
         return false;
-    Snapshot snapshot = current();
-    if (snapshot.toXml() == m_known)
+    const StateMap states = m_windows.states();
+    noteSettings();
+    // Most of what touches a window changes nothing, and the document may be large.
+    if (!m_viewsChanged && isSaved(states))
         return m_problem.isEmpty();
-    if (m_isOtherVersion && !hasViews(snapshot))
-        return true;
+    Snapshot snapshot = current(states);
+    const bool isKnown = snapshot.toXml() == m_known;
+    const bool isLeft = m_isOtherVersion && !hasViews(snapshot);
+    if (!isKnown && !isLeft && !saveWithOthers(snapshot))
+        return false;
+    m_viewsChanged = false;
+    m_savedStates = states;
+    m_savedSettings = m_settings;
+    return m_problem.isEmpty() || isLeft;
+}
+
+bool Keeper::saveWithOthers(Snapshot& snapshot)
+{
     const Storage::Lock lock(*m_storage);
     mergeOthers(snapshot);
-    return write(snapshot.toXml());
+    return m_storage && write(snapshot.toXml());
 }
 
 void Keeper::mergeOthers(Snapshot& snapshot)
@@ -208,8 +271,7 @@ void Keeper::mergeOthers(Snapshot& snapshot)
     const QByteArray bytes = m_storage->read(&problem);
     if (problem.isEmpty() && (bytes.isNull() || bytes == m_known))
         return;
-    const LayoutDocument document(bytes);
-    if (!document.isReadable() || document.version() != QLatin1String(version)) {
+    if (!isOurs(bytes)) {
         m_isOtherVersion = false;
         moveAway(problem.isEmpty() ? tr("It is of another version of this program, or damaged.")
                                    : problem);
@@ -232,7 +294,7 @@ bool Keeper::write(const QByteArray& document)
         m_problem.clear();
         return true;
     }
-    tell(tr("The layouts could not be saved in %1: %2").arg(m_storage->readableName(), problem));
+    tell(tr("The layouts could not be saved in %1: %2").arg(m_name, problem));
     m_timer.start(retryDelay);
     return false;
 }
@@ -241,8 +303,8 @@ bool Keeper::write(const QByteArray& document)
 void Keeper::moveAway(const QString& reason)
 {
     const QString name = m_storage->moveAway();
-    const QString problem = tr("The file with your layouts, %1, cannot be read. %2")
-                                .arg(m_storage->readableName(), reason);
+    const QString problem =
+        tr("The file with your layouts, %1, cannot be read. %2").arg(m_name, reason);
     if (!name.isEmpty()) {
         tell(problem + QLatin1Char(' ') + tr("It is kept as %1.").arg(QFileInfo(name).fileName()));
         return;
@@ -254,7 +316,8 @@ void Keeper::moveAway(const QString& reason)
 
 void Keeper::saveSoon()
 {
-    if (m_storage && !m_timer.isActive())
+    // Not later than what is due already, such as a retry.
+    if (m_storage && (!m_timer.isActive() || m_timer.remainingTime() > savingDelay))
         m_timer.start(savingDelay);
 }
 

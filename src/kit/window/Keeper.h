@@ -38,6 +38,9 @@ public:
     bool hasStarted() const { return m_storage != nullptr; }
     /** Neither loads nor saves any more. */
     void stop();
+    /** Saves what the windows show, now that the Manager is gone and tells nothing any more, and
+        stops. */
+    void finish();
     /** Saves if anything has changed. @return whether the file is what it should be. */
     bool save();
     /** Why the file could not be read or saved, as long as that is the case. */
@@ -54,12 +57,19 @@ Q_SIGNALS:
     /** One sentence for the user. */
     void message(const QString& text);
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void load();
     void takeOver(const QByteArray& document);
     void giveToManager(const Snapshot& snapshot);
     void beginWindows(const Snapshot& snapshot);
-    Snapshot current();
+    Snapshot current(const StateMap& states);
+    void noteSettings();
+    void noteWindows(Snapshot& snapshot, const StateMap& states) const;
+    bool isSaved(const StateMap& states) const;
+    bool saveWithOthers(Snapshot& snapshot);
     bool write(const QByteArray& document);
     void mergeOthers(Snapshot& snapshot);
     void moveAway(const QString& reason);
@@ -72,9 +82,16 @@ private:
     Activity& m_activity;
     Windows& m_windows;
     std::unique_ptr<Storage> m_storage;
+    /** Of the file, for messages. */
+    QString m_name;
     /** What is in the file as far as this program knows. */
     QByteArray m_known;
     QJsonObject m_settings;
+    /** What of the windows and which settings() were saved last. */
+    StateMap m_savedStates;
+    QJsonObject m_savedSettings;
+    /** Whether views may be others than when they were saved last. */
+    bool m_viewsChanged = true;
     QString m_problem;
     QTimer m_timer;
     /** Whether the file is of another version. It stays until there are layouts to save. */

@@ -24,11 +24,16 @@ Layouts::Layouts(Manager& manager, QObject* parent)
 {
     // While the owner, which is its child, is still there.
     connect(&manager, &QObject::destroyed, this, [this] {
-        m_session->keeper.stop();
+        m_session->keeper.finish();
         const bool wasLocked = isLocked();
         m_session.reset();
         if (wasLocked)
             Q_EMIT lockedChanged(false);
+    });
+    // Those that are there are looked at when it starts.
+    connect(&m_session->windows, &Detail::Windows::added, this, [this](QMainWindow* window) {
+        if (m_session->keeper.hasStarted())
+            Detail::Doctor::tell(*window);
     });
     connect(&m_session->keeper, &Detail::Keeper::message, this, &Layouts::message);
     connect(&m_session->lock, &Detail::Lock::lockedChanged, this, &Layouts::lockedChanged);
