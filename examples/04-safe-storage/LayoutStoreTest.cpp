@@ -133,7 +133,7 @@ private Q_SLOTS:
         QVERIFY(read(name).contains("Mine"));
     }
 
-    // Its folder cannot be made, for a file has that name.
+    // Its folder cannot be created, because a file has that name.
     void failureToSaveIsTold()
     {
         const QTemporaryDir folder;

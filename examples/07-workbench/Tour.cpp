@@ -142,7 +142,7 @@ bool Tour::nextByKeys()
 
 bool Tour::switchGroups()
 {
-    // Saved in no view: it comes back all the same, for each group keeps a layout of its own.
+    // Saved in no view. It comes back all the same, because each group keeps a working layout.
     m_workbench.editor().dock(QStringLiteral("Project"))->show();
     const Shown editing = shown();
     if (!switchGroup(1) ||

@@ -59,7 +59,7 @@ void settle()
     // A window manager answers when it likes, and an answer that comes late closes a menu.
     if (QGuiApplication::platformName() != QLatin1String("offscreen"))
         QTest::qWait(80);
-    // Here and not only before a key, for a timer that is to act after that key would act now.
+    // Here and not only before a key, because a timer that is to act after that key would act now.
     if (!QApplication::activePopupWidget())
         waitForActiveWindow();
 }

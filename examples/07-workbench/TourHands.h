@@ -9,7 +9,7 @@
 class QAction;
 class QMenu;
 
-/** What the tour does with keyboard and mouse, as the events that a person's hands make. */
+/** What the tour does with keyboard and mouse, as the events of a user. */
 namespace TourHands {
 
 /** Has the keyboard in @p window whenever no other window of the program has it. */
@@ -24,7 +24,7 @@ void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 void type(const QString& text);
 /** Goes down from entry to entry of an open menu until @p action is the active one. */
 bool goTo(const QMenu& menu, const QAction* action);
-/** @param position as it is where one reads from left to right. */
+/** @param position as in a window that is read from left to right. */
 void click(QWidget& widget, const QPoint& position);
 
 /**

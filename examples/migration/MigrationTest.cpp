@@ -31,14 +31,14 @@ public:
     QString translate(const char* /*context*/, const char* text, const char* /*disambiguation*/,
                       int /*n*/) const override
     {
-        const bool isIt = QLatin1String(text) == QLatin1String("My layout");
-        return isIt ? QStringLiteral("Meine Anordnung") : QString();
+        const bool isLayoutName = QLatin1String(text) == QLatin1String("My layout");
+        return isLayoutName ? QStringLiteral("Meine Anordnung") : QString();
     }
 };
 
 } // namespace
 
-/** The first runs of a program beside the settings that its earlier release has left. */
+/** The first runs of a program that finds the settings of its earlier release. */
 class MigrationTest : public QObject
 {
     Q_OBJECT
@@ -133,7 +133,7 @@ void MigrationTest::theSecondRunDoesNotAdoptAgain()
 {
     runEarlierRelease(Qt::RightDockWidgetArea);
     run([](Program& program) { move(program.window(), "files", Qt::TopDockWidgetArea); });
-    // Somebody goes back to the earlier release for once.
+    // The user starts the earlier release once more.
     runEarlierRelease(Qt::BottomDockWidgetArea);
     run([](Program& program) {
         QCOMPARE(program.manager().views(), QStringList{QStringLiteral("My layout")});

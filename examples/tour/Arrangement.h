@@ -7,7 +7,7 @@
 
 class QMainWindow;
 
-/** Where one dock widget or tool bar stands, asked of the window and not of a stored layout. */
+/** Where one dock widget or tool bar is in the window, and not in a stored layout. */
 struct Place
 {
     QString name;

@@ -5,8 +5,8 @@ class QImage;
 class QMainWindow;
 
 /**
- * The window and its floating dock widgets where they stand on the screen, under captions
- * painted here, for the offscreen platform has no window manager that draws them.
+ * The window and its floating dock widgets where they are on the screen, under captions
+ * painted here, because the offscreen platform has no window manager that draws them.
  */
 QImage pictureOf(const QMainWindow& window);
 
