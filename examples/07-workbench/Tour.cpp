@@ -5,8 +5,11 @@
 #include "Picture.h"
 #include "TourHands.h"
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QDockWidget>
+#include <QFileDialog>
 #include <QImage>
 #include <QKeySequence>
 #include <QLabel>
@@ -57,7 +60,8 @@ bool Tour::run()
     picture(QStringLiteral("start"));
     const bool done = refuseEmptyName() && saveFromMenu() && switchByMouse() && cycle() &&
                       deleteAndUndo() && nextByKeys() && switchGroups() && importBadFiles() &&
-                      importGoodFile() && resetAll() && showLongName() && showManyLayouts();
+                      importGoodFile() && useDialog() && chooseImports() && resetAll() &&
+                      showLongName() && showManyLayouts();
     if (!done)
         print(QStringLiteral("FAILED: the tour ends after picture %1").arg(m_steps));
     return done && m_hasAllPictures;
@@ -187,6 +191,54 @@ bool Tour::importGoodFile()
                 m_workbench.manager().views() == before && hasMessage());
 }
 
+bool Tour::useDialog()
+{
+    QDialog* dialog = openDialog();
+    if (!step(QStringLiteral("dialog"), QStringLiteral("A dialog shows all layouts."), dialog))
+        return false;
+    const QStringList before = m_workbench.manager().views();
+    press(Qt::Key_Up);
+    press(Qt::Key_Delete);
+    if (!step(QStringLiteral("dialog-deleted"), QStringLiteral("In it they are deleted by key."),
+              m_workbench.manager().views().size() == before.size() - 1))
+        return false;
+    press(Qt::Key_Z, Qt::ControlModifier);
+    const bool isBack = step(QStringLiteral("dialog-undone"), QStringLiteral("And brought back."),
+                             m_workbench.manager().views() == before);
+    dialog->close();
+    return isBack;
+}
+
+bool Tour::chooseImports()
+{
+    QDialog* dialog = openDialog();
+    if (!dialog)
+        return false;
+    const QString good = m_pictures.filePath(QStringLiteral("good.views"));
+    const auto* box = dialog->findChild<QDialogButtonBox*>();
+    QAbstractButton* import = nullptr;
+    for (QAbstractButton* button : box->buttons()) {
+        // Import and export have this role, in this order.
+        if (!import && box->buttonRole(button) == QDialogButtonBox::ResetRole)
+            import = button;
+    }
+    chooseFile(
+        good, [import] { click(*import, import->rect().center()); }, [] {});
+    QWidget* chooser = nullptr;
+    (void)QTest::qWaitFor([&chooser] {
+        chooser = QApplication::activeModalWidget();
+        return chooser && !qobject_cast<QFileDialog*>(chooser);
+    });
+    if (!step(QStringLiteral("import-chooser"),
+              QStringLiteral("An import shows what is in the file, before anything changes."),
+              chooser))
+        return false;
+    press(Qt::Key_Escape);
+    dialog->close();
+    settle();
+    return true;
+}
+
 bool Tour::resetAll()
 {
     disturb();
@@ -266,6 +318,18 @@ bool Tour::openMenu()
     if (!m_workbench.menu().isVisible())
         print(QStringLiteral("FAILED: the menu has not opened"));
     return m_workbench.menu().isVisible();
+}
+
+QDialog* Tour::openDialog()
+{
+    if (!openMenu() || !goTo(m_workbench.menu(), m_workbench.menu().actions().last()))
+        return nullptr;
+    press(Qt::Key_Return);
+    auto* dialog = m_workbench.editor().findChild<QDialog*>();
+    if (!dialog || !QTest::qWaitForWindowActive(dialog))
+        return nullptr;
+    settle();
+    return dialog;
 }
 
 bool Tour::openSubMenu(QMenu& subMenu)

@@ -6,6 +6,9 @@
 
 #include <QDir>
 
+class QDialog;
+class QMenu;
+
 /**
  * Uses the workbench by keyboard and mouse as a user does, prints each step, checks what came of it
  * and writes a picture of all that is open.
@@ -34,6 +37,8 @@ private:
     bool switchGroups();
     bool importBadFiles();
     bool importGoodFile();
+    bool useDialog();
+    bool chooseImports();
     bool resetAll();
     bool showManyLayouts();
     bool showLongName();
@@ -44,6 +49,7 @@ private:
     bool openSubMenu(QMenu& subMenu);
     bool switchGroup(int index);
     bool import(const QString& fileName, const QString& picture);
+    QDialog* openDialog();
     QMenu& saveAsMenu() const;
     QMenu& deleteMenu() const;
     Shown shown() const;
