@@ -58,7 +58,7 @@ public:
         dialog->show();
         dialog->activateWindow();
         // A dialog counts as active while its parent is.
-        isReady = QTest::qWaitFor([this] { return QApplication::activeWindow() == dialog; });
+        isReady = QTest::qWaitFor([this] { return QApplication::activeWindow() == dialog; }, 30000);
     }
 
     QTreeView* view() const { return dialog->findChild<QTreeView*>(); }

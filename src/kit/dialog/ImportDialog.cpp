@@ -5,6 +5,7 @@
 #include "LayoutPreview.h"
 #include "LayoutsView.h"
 
+#include <QAction>
 #include <QButtonGroup>
 #include <QDialogButtonBox>
 #include <QGroupBox>
@@ -121,6 +122,11 @@ void ImportDialog::follow()
     connect(m_model, &ImportModel::choiceChanged, this, &ImportDialog::updateChoices);
     connect(m_model, &ImportModel::choiceChanged, this, &ImportDialog::updateButton);
     connect(m_choices, &QButtonGroup::idClicked, this, &ImportDialog::choose);
+    auto* toggle = new QAction(this);
+    toggle->setShortcut(Qt::Key_Space);
+    toggle->setShortcutContext(Qt::WidgetShortcut);
+    m_view->addAction(toggle);
+    connect(toggle, &QAction::triggered, this, &ImportDialog::toggleSelected);
 }
 
 void ImportDialog::checkAll(bool checked)
@@ -148,6 +154,19 @@ void ImportDialog::choose(int choice)
             layouts.append(index);
     }
     m_model->setChoice(layouts, static_cast<Choice>(choice));
+}
+
+// All of them become what the current one does.
+void ImportDialog::toggleSelected()
+{
+    const bool isChecked = m_model->choiceOf(m_view->currentIndex()) != Choice::Skip;
+    const QModelIndexList selected = m_view->selectionModel()->selectedIndexes();
+    QModelIndexList layouts;
+    for (const QModelIndex& index : selected) {
+        if ((m_model->choiceOf(index) != Choice::Skip) == isChecked)
+            layouts.append(index);
+    }
+    m_model->setChoice(layouts, isChecked ? Choice::Skip : Choice::Add);
 }
 
 void ImportDialog::updateDetails()

@@ -41,6 +41,7 @@ private:
 
     void checkAll(bool checked);
     void choose(int choice);
+    void toggleSelected();
     void updateDetails();
     void updateChoices();
     void updateButton();

@@ -236,22 +236,16 @@ bool LayoutDelegate::eventFilter(QObject* editor, QEvent* event)
     return QStyledItemDelegate::eventFilter(editor, event);
 }
 
-// A box is checked by a click on it or by the space bar.
 bool LayoutDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
                                  const QStyleOptionViewItem& option, const QModelIndex& index)
 {
     const QVariant check = index.data(Qt::CheckStateRole);
-    if (!check.isValid())
+    if (!check.isValid() || event->type() != QEvent::MouseButtonRelease)
         return false;
-    bool isMeant = false;
-    if (event->type() == QEvent::MouseButtonRelease)
-        isMeant = placesIn(option, index)
-                      .check.adjusted(-margin, -margin, margin, margin)
-                      .contains(static_cast<const QMouseEvent*>(event)->pos());
-    else if (event->type() == QEvent::KeyPress)
-        isMeant = static_cast<const QKeyEvent*>(event)->key() == Qt::Key_Space;
+    const QRect box = placesIn(option, index).check.adjusted(-margin, -margin, margin, margin);
     const int other = check.toInt() == Qt::Checked ? Qt::Unchecked : Qt::Checked;
-    return isMeant && model->setData(index, other, Qt::CheckStateRole);
+    return box.contains(static_cast<const QMouseEvent*>(event)->pos()) &&
+           model->setData(index, other, Qt::CheckStateRole);
 }
 
 } // namespace Panorel::Kit::Detail

@@ -5,6 +5,8 @@
 #include "LayoutTree.h"
 #include "Thumbnails.h"
 
+#include <QPainter>
+
 #include <algorithm>
 
 namespace Panorel::Kit::Detail {
@@ -93,6 +95,19 @@ void LayoutsView::resumeEditing(const QModelIndex& index, const QString& text)
 QSize LayoutsView::sizeHint() const
 {
     return QSize(22, 24) * fontMetrics().height();
+}
+
+void LayoutsView::paintEvent(QPaintEvent* event)
+{
+    QTreeView::paintEvent(event);
+    if (m_model.rowCount(rootIndex()) > 0)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
+    const int margin = fontMetrics().height();
+    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                     static_cast<int>(Qt::AlignCenter) | Qt::TextWordWrap,
+                     tr("There are no layouts yet. Save one in the menu \"Layouts\"."));
 }
 
 void LayoutsView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)

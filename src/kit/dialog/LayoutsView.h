@@ -40,6 +40,7 @@ Q_SIGNALS:
     void chosen();
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     void selectionChanged(const QItemSelection& selected,
                           const QItemSelection& deselected) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
