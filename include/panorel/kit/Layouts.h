@@ -112,7 +112,8 @@ public:
      */
     QMenu* createMenu(QWidget* parent);
     /** Makes a tool button in the same way: a Panorel::ViewButton whose tool tip names the active
-        layout. */
+        layout. If a switch would hide the tool bar that it is in, the tool bar stays; the stored
+        layout is not changed. */
     QToolButton* createButton(QWidget* parent);
 
     /**

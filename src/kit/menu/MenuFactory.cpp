@@ -2,6 +2,7 @@
 #include "MenuFactory.h"
 
 #include "ButtonCures.h"
+#include "ButtonReach.h"
 #include "EntryTexts.h"
 #include "FileEntries.h"
 #include "KitEntries.h"
@@ -67,6 +68,7 @@ ViewButton* MenuFactory::createButton(Layouts& layouts, Session& session, QWidge
     // The button's menu is its child.
     cure(*static_cast<Menu*>(button->menu()), layouts, session);
     new ButtonCures(*button, session.manager);
+    new ButtonReach(*button, session.activity);
     return button;
 }
 
