@@ -692,6 +692,25 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::StepActions</name>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Undo: %1</source>
+        <translation>Annuler : %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Redo: %1</source>
+        <translation>Rétablir : %1</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Plugin::ButtonBar</name>
     <message>
         <source>Show Button in a Tool Bar</source>

@@ -692,6 +692,25 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::StepActions</name>
+    <message>
+        <source>Undo</source>
+        <translation>ביטול פעולה</translation>
+    </message>
+    <message>
+        <source>Undo: %1</source>
+        <translation>ביטול פעולה: %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>ביצוע חוזר</translation>
+    </message>
+    <message>
+        <source>Redo: %1</source>
+        <translation>ביצוע חוזר: %1</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Plugin::ButtonBar</name>
     <message>
         <source>Show Button in a Tool Bar</source>

@@ -692,6 +692,25 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::StepActions</name>
+    <message>
+        <source>Undo</source>
+        <translation>실행 취소</translation>
+    </message>
+    <message>
+        <source>Undo: %1</source>
+        <translation>실행 취소: %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>다시 실행</translation>
+    </message>
+    <message>
+        <source>Redo: %1</source>
+        <translation>다시 실행: %1</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Plugin::ButtonBar</name>
     <message>
         <source>Show Button in a Tool Bar</source>

@@ -692,6 +692,25 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::StepActions</name>
+    <message>
+        <source>Undo</source>
+        <translation>Angre</translation>
+    </message>
+    <message>
+        <source>Undo: %1</source>
+        <translation>Angre: %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Gjør om</translation>
+    </message>
+    <message>
+        <source>Redo: %1</source>
+        <translation>Gjør om: %1</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Plugin::ButtonBar</name>
     <message>
         <source>Show Button in a Tool Bar</source>

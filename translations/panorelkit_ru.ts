@@ -692,6 +692,25 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::StepActions</name>
+    <message>
+        <source>Undo</source>
+        <translation>Отменить</translation>
+    </message>
+    <message>
+        <source>Undo: %1</source>
+        <translation>Отменить: %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Повторить</translation>
+    </message>
+    <message>
+        <source>Redo: %1</source>
+        <translation>Повторить: %1</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Plugin::ButtonBar</name>
     <message>
         <source>Show Button in a Tool Bar</source>

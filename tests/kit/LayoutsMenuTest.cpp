@@ -16,6 +16,7 @@
 #include <QPlainTextEdit>
 #include <QSignalSpy>
 #include <QTest>
+#include <QUndoStack>
 
 using namespace Panorel;
 using namespace Panorel::Tests;
@@ -97,6 +98,7 @@ private Q_SLOTS:
     void keyboardLeavesTheMenuBar();
     void ampersandsAreShown();
     void desktopsAmpersandsDoNotChangeNames();
+    void undoAndRedoNameTheStep();
     void manyLayoutsScroll();
     void buttonDescribesItself();
     void managerMayGoFirst();
@@ -199,6 +201,22 @@ void LayoutsMenuTest::desktopsAmpersandsDoNotChangeNames()
     deletion->setText("&Writing"_s);
     deletion->trigger();
     QCOMPARE(f.manager.views(), QStringList{"Drawing"_s});
+}
+
+void LayoutsMenuTest::undoAndRedoNameTheStep()
+{
+    Fixture f;
+    QUndoStack* steps = f.layouts.history();
+    const QAction* undo = entry(f.menu, "Undo"_s);
+    const QAction* redo = entry(f.menu, "Redo"_s);
+    QVERIFY(undo && redo);
+    steps->push(new QUndoCommand("Delete \"R&D\""_s));
+    QCOMPARE(undo->text(), "Undo: Delete \"R&&D\""_s);
+    QVERIFY(undo->isEnabled());
+    QVERIFY(!redo->isEnabled());
+    steps->undo();
+    QCOMPARE(undo->text(), "Undo"_s);
+    QCOMPARE(redo->text(), "Redo: Delete \"R&&D\""_s);
 }
 
 void LayoutsMenuTest::manyLayoutsScroll()

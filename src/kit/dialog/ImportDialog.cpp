@@ -5,6 +5,8 @@
 #include "LayoutPreview.h"
 #include "LayoutsView.h"
 
+#include "../window/ActionText.h"
+
 #include <QAction>
 #include <QButtonGroup>
 #include <QDialogButtonBox>
@@ -51,9 +53,7 @@ ImportDialog::~ImportDialog() = default;
 
 QWidget* ImportDialog::createList(const ImportSource& source)
 {
-    auto* title =
-        new QLabel(tr("&Layouts in \"%1\":")
-                       .arg(QString(source.name()).replace(QLatin1Char('&'), QLatin1String("&&"))));
+    auto* title = new QLabel(tr("&Layouts in \"%1\":").arg(actionText(source.name())));
     title->setTextFormat(Qt::PlainText);
     title->setBuddy(m_view);
     m_view->setAccessibleName(tr("Layouts of the file"));

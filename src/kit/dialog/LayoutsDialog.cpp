@@ -13,6 +13,8 @@
 #include "LayoutsView.h"
 #include "PartTitles.h"
 
+#include "../history/StepActions.h"
+#include "../window/ActionText.h"
 #include "../window/Session.h"
 
 #include <panorel/Manager.h>
@@ -78,11 +80,11 @@ LayoutsDialog* LayoutsDialog::find(const QWidget& window, const Session& session
 void LayoutsDialog::createActions()
 {
     if (QUndoStack* const stack = m_session->history.stack()) {
-        m_undo = stack->createUndoAction(this);
+        m_undo = StepActions::createUndo(*stack, this);
         m_undo->setIconText(tr("Undo"));
         m_undo->setIcon(QIcon::fromTheme(QStringLiteral("edit-undo")));
         m_undo->setShortcut(QKeySequence::Undo);
-        m_redo = stack->createRedoAction(this);
+        m_redo = StepActions::createRedo(*stack, this);
         m_redo->setIconText(tr("Redo"));
         m_redo->setIcon(QIcon::fromTheme(QStringLiteral("edit-redo")));
         m_redo->setShortcuts(QKeySequence::Redo);
@@ -124,9 +126,7 @@ void LayoutsDialog::createGroupMenu()
     m_toGroup->setVisible(groups.size() > 1);
     auto* menu = new QMenu(this);
     for (const QString& group : groups) {
-        QString text = group;
-        text.replace(QLatin1Char('&'), QLatin1String("&&"));
-        connect(menu->addAction(text), &QAction::triggered, this,
+        connect(menu->addAction(actionText(group)), &QAction::triggered, this,
                 [this, group] { moveToGroup(group); });
     }
     m_toGroup->setMenu(menu);

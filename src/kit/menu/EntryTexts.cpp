@@ -3,21 +3,14 @@
 
 #include "MenuParts.h"
 
+#include "../window/ActionText.h"
+
 #include <panorel/Manager.h>
 #include <panorel/Menu.h>
 
 #include <QAction>
 
 namespace Panorel::Kit::Detail {
-
-namespace {
-
-QString escaped(QString name)
-{
-    return name.replace(QLatin1Char('&'), QLatin1String("&&"));
-}
-
-} // namespace
 
 EntryTexts::EntryTexts(Menu& menu, Manager& manager)
     : QObject(&menu)
@@ -45,7 +38,7 @@ void EntryTexts::escapeViews() const
         const QString name = entry->data().toString();
         const bool isBare = entry->text() == name;
         if (isBare && name.contains(QLatin1Char('&')))
-            entry->setText(escaped(name));
+            entry->setText(actionText(name));
     }
 }
 
@@ -55,7 +48,7 @@ void EntryTexts::escape(const QMenu& subMenu) const
     const QStringList names = sortedNames();
     for (int i = 0; i < entries.size() && i < names.size(); ++i) {
         if (names[i].contains(QLatin1Char('&')))
-            entries[i]->setText(escaped(names[i]));
+            entries[i]->setText(actionText(names[i]));
     }
 }
 

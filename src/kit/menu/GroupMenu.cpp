@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "GroupMenu.h"
 
+#include "../window/ActionText.h"
+
 #include <panorel/Manager.h>
 
 #include <QActionGroup>
@@ -13,8 +15,7 @@ GroupMenu::GroupMenu(Manager& manager, QWidget* parent)
     auto* choice = new QActionGroup(this);
     const QStringList names = manager.groups();
     for (const QString& name : names) {
-        QString text = name;
-        QAction* action = addAction(text.replace(QLatin1Char('&'), QLatin1String("&&")));
+        QAction* action = addAction(actionText(name));
         choice->addAction(action)->setCheckable(true);
         action->setChecked(name == manager.activeGroup());
         connect(action, &QAction::triggered, &manager,

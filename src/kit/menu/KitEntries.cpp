@@ -4,6 +4,7 @@
 #include "GroupMenu.h"
 
 #include "../dialog/LayoutsDialog.h"
+#include "../history/StepActions.h"
 #include "../window/Session.h"
 
 #include <panorel/Manager.h>
@@ -50,8 +51,8 @@ void KitEntries::addGroups()
 void KitEntries::addUndoAndRedo()
 {
     if (const QUndoStack* stack = m_session.history.stack()) {
-        add(stack->createUndoAction(&m_menu));
-        add(stack->createRedoAction(&m_menu));
+        add(StepActions::createUndo(*stack, &m_menu));
+        add(StepActions::createRedo(*stack, &m_menu));
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Slots.h"
 
+#include "ActionText.h"
 #include "Actions.h"
 #include "Keeper.h"
 #include "StoredViews.h"
@@ -220,10 +221,9 @@ QString Slots::textOf(const Slot& slot) const
         const auto number = std::distance(&m_slots.front(), &slot) + 1;
         return tr("Empty Slot %1").arg(number);
     }
-    QString text = m_manager.groups().size() > 1
-                       ? QStringLiteral("%1 (%2)").arg(layout.view, layout.group)
-                       : layout.view;
-    return text.replace(QLatin1Char('&'), QLatin1String("&&"));
+    return actionText(m_manager.groups().size() > 1
+                          ? QStringLiteral("%1 (%2)").arg(layout.view, layout.group)
+                          : layout.view);
 }
 
 void Slots::activate(int index)
