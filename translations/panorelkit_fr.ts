@@ -318,6 +318,13 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::LayoutsView</name>
+    <message>
+        <source>There are no layouts yet. Save one in the menu &quot;Layouts&quot;.</source>
+        <translation>Il n&apos;y a pas encore de disposition. Enregistrez-en une dans le menu &quot;Dispositions&quot;.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::Lock</name>
     <message>
         <source>Loc&amp;k Layout</source>

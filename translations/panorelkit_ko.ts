@@ -318,6 +318,13 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::LayoutsView</name>
+    <message>
+        <source>There are no layouts yet. Save one in the menu &quot;Layouts&quot;.</source>
+        <translation>아직 레이아웃이 없습니다. &quot;레이아웃&quot; 메뉴에서 저장하십시오.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::Lock</name>
     <message>
         <source>Loc&amp;k Layout</source>

@@ -318,6 +318,13 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::LayoutsView</name>
+    <message>
+        <source>There are no layouts yet. Save one in the menu &quot;Layouts&quot;.</source>
+        <translation>Компонувань ще немає. Збережіть компонування в меню &quot;Компонування&quot;.</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::Lock</name>
     <message>
         <source>Loc&amp;k Layout</source>

@@ -318,6 +318,13 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::LayoutsView</name>
+    <message>
+        <source>There are no layouts yet. Save one in the menu &quot;Layouts&quot;.</source>
+        <translation>还没有布局。请在菜单“布局”中保存一个。</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::Lock</name>
     <message>
         <source>Loc&amp;k Layout</source>

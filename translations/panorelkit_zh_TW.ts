@@ -318,6 +318,13 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::LayoutsView</name>
+    <message>
+        <source>There are no layouts yet. Save one in the menu &quot;Layouts&quot;.</source>
+        <translation>還沒有版面配置。請在選單「版面配置」中儲存。</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::Lock</name>
     <message>
         <source>Loc&amp;k Layout</source>
