@@ -118,7 +118,7 @@ void DocumentLimitsTest::judge()
 {
     QFETCH(QByteArray, data);
     QFETCH(bool, accepted);
-    // One way in only, for each of them costs a validation.
+    // One way in only, because each of them costs a validation.
     Panorel::Manager manager(names("A"), /*mergeOnApply=*/false);
     const MessageWatch watch(MessageWatch::Started);
     QCOMPARE(manager.fromXml(data, /*merge=*/true), accepted);

@@ -105,7 +105,7 @@ void checkMerging(Fixture& merged, Manager& loaded)
 
 void checkFixedPoint(Manager& manager)
 {
-    // Once round, for what XML cannot keep apart is lost on the first way.
+    // Once round, because what XML cannot keep apart is lost on the first way.
     const QByteArray first = manager.toXml(/*markActive=*/true);
     require(manager.fromXml(first, /*merge=*/false), "a written document is accepted");
     const QByteArray second = manager.toXml(/*markActive=*/true);

@@ -20,7 +20,7 @@ using ToolBarItem = ToolBarArea::Item;
 
 // Each function below gives an empty text when its arguments are equal, else the first place where
 // they differ: QCOMPARE(difference(actual, expected), QString()). Texts are only built on the way
-// out, for some tests compare a million states.
+// out, because some tests compare a million states.
 
 inline QString difference(const QByteArray& actual, const QByteArray& expected)
 {
