@@ -90,18 +90,7 @@ public:
         return openFile();
     }
     bool open() { return open(other.bytes()); }
-    bool openFile()
-    {
-        FileDialogUser user([&](QFileDialog& files) { FileDialogUser::choose(files, path()); });
-        click("Import..."_s, dialog);
-        const auto isDone = [&] {
-            chooser = findChooser();
-            return chooser || label("message"_s, dialog)->isVisible();
-        };
-        const auto isReady = [&] { return !chooser || QApplication::activeWindow() == chooser; };
-        return QTest::qWaitFor(isDone, patience) && QTest::qWaitFor(isReady, patience) &&
-               user.wasUsed();
-    }
+    bool openFile() { return chooseFile() && isChooserReady(); }
 
     static void click(const QString& text, const QWidget* parent)
     {
@@ -158,6 +147,29 @@ public:
     QPointer<QDialog> chooser;
 
 private:
+    bool chooseFile()
+    {
+        FileDialogUser user([&](QFileDialog& files) { FileDialogUser::choose(files, path()); });
+        click("Import..."_s, dialog);
+        const auto isDone = [&] {
+            chooser = findChooser();
+            return chooser || label("message"_s, dialog)->isVisible();
+        };
+        return QTest::qWaitFor(isDone, patience) && user.wasUsed();
+    }
+
+    bool isChooserReady()
+    {
+        const auto isReady = [&] {
+            if (!chooser || QApplication::activeWindow() == chooser)
+                return true;
+            // A window manager may have been busy with the dialog that was closed.
+            chooser->activateWindow();
+            return false;
+        };
+        return QTest::qWaitFor(isReady, patience);
+    }
+
     QDialog* findChooser() const
     {
         const auto dialogs = dialog->findChildren<QDialog*>();

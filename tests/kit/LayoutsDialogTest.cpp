@@ -56,9 +56,13 @@ public:
             manager.createView(name);
         dialog = layouts->createDialog(&window);
         dialog->show();
-        dialog->activateWindow();
-        // A dialog counts as active while its parent is.
-        isReady = QTest::qWaitFor([this] { return QApplication::activeWindow() == dialog; }, 30000);
+        const auto isActive = [this] {
+            // A dialog counts as active while its parent is, and a window manager may be busy.
+            if (QApplication::activeWindow() != dialog)
+                dialog->activateWindow();
+            return QApplication::activeWindow() == dialog;
+        };
+        isReady = QTest::qWaitFor(isActive, 30000);
     }
 
     QTreeView* view() const { return dialog->findChild<QTreeView*>(); }
