@@ -6,7 +6,11 @@
 #include "Parts.h"
 #include "WindowOwner.h"
 
+#include <panorel/kit/Difference.h>
+
 #include <QDockWidget>
+
+#include <algorithm>
 
 namespace Panorel::Kit::Detail {
 
@@ -31,6 +35,31 @@ void moveFloatingTabs(const QMainWindow& window)
     const QList<QWidget*> groups = Parts::floatingTabGroups(window);
     for (QWidget* group : groups)
         group->setGeometry(QRect(group->pos(), group->size()));
+}
+
+bool isInFloatingTabs(const WindowState::DockWidget& dock)
+{
+    return dock.area == Qt::NoDockWidgetArea && !dock.isFloating;
+}
+
+bool hasLostFloatingTabsOnly(const WindowState& before, const WindowState& after)
+{
+    if (before.floatingTabs().isEmpty() || !after.floatingTabs().isEmpty())
+        return false;
+    QStringList floating;
+    const auto docks = before.dockWidgets();
+    for (const WindowState::DockWidget& dock : docks) {
+        if (isInFloatingTabs(dock))
+            floating.append(dock.name);
+    }
+    const QVector<Difference> found = differences(before, after);
+    return std::all_of(found.cbegin(), found.cend(), [&](const Difference& difference) {
+        // The merge stops there and loses tool bars too. The others make room for what was
+        // floating.
+        return difference.part == Difference::Part::ToolBar || floating.contains(difference.name) ||
+               difference.aspect == Difference::Aspect::Size ||
+               difference.aspect == Difference::Aspect::Order;
+    });
 }
 
 } // namespace
@@ -73,11 +102,6 @@ void Giver::nameParts(const QList<ManagedWindow>& windows)
     }
 }
 
-void Giver::give(const StateMap& stored, ToolBars toolBars)
-{
-    give(stored, toolBars == ToolBars::Kept ? live() : StateMap());
-}
-
 void Giver::give(const StateMap& stored, const StateMap& toolBars)
 {
     struct Target
@@ -105,6 +129,26 @@ void Giver::give(const StateMap& stored, const StateMap& toolBars)
             bars.isEmpty() ? QByteArray() : WindowState::merged(checked.state, WindowState(bars));
         giveTo(*target.window, checked.state, merged.isEmpty() ? checked.tidied : merged);
     }
+}
+
+void Giver::prepareForRestoring()
+{
+    const QList<ManagedWindow> windows = m_owner.windows();
+    for (const ManagedWindow& managed : windows) {
+        if (managed.window)
+            dockFloatingTabs(*managed.window);
+    }
+}
+
+StateMap Giver::withFloatingTabs(const StateMap& live, const StateMap& before)
+{
+    StateMap result = live;
+    for (auto state = result.begin(); state != result.end(); ++state) {
+        const QByteArray known = before.value(state.key());
+        if (!known.isEmpty() && hasLostFloatingTabsOnly(WindowState(known), WindowState(*state)))
+            *state = known;
+    }
+    return result;
 }
 
 void Giver::giveTo(QMainWindow& window, const QByteArray& state)

@@ -34,13 +34,14 @@ public:
     /** Names the parts of windows that somebody else takes and gives layouts of, until control
         returns to the event loop. Otherwise the application sees no such names. */
     void nameParts(const QList<ManagedWindow>& windows);
-    /** Which tool bars the windows get. */
-    enum class ToolBars { Stored, Kept };
-    /** Gives each window its part of @p stored; one without a part, or whose part is not sound,
-        stays as it is. */
-    void give(const StateMap& stored, ToolBars toolBars);
-    /** The same with tool bars that are in @p toolBars. */
+    /** Gives each window its part of @p stored, with the tool bars of its part of @p toolBars if it
+        has one. A window without a part, or whose part is not sound, stays as it is. */
     void give(const StateMap& stored, const StateMap& toolBars);
+    /** Call it before somebody else restores a state, or floating tab groups may be lost. */
+    void prepareForRestoring();
+    /** For each window @p before, if @p live is the same without its floating tab groups; else
+        @p live. */
+    static StateMap withFloatingTabs(const StateMap& live, const StateMap& before);
     /** Gives one window @p state, as it is but tidied. */
     void giveTo(QMainWindow& window, const QByteArray& state);
     /** Creates the dock widgets for which the windows keep a place. */

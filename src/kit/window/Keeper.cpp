@@ -183,7 +183,7 @@ void Keeper::takeOver(const QByteArray& document)
     Snapshot snapshot = Snapshot::fromXml(document);
     if (tidy(snapshot))
         tell(tr("Some of the layouts in %1 are damaged and were left out.").arg(m_name));
-    giveToManager(snapshot);
+    const Activity::Takeover takeover(m_activity);
     if (!snapshot.groups.isEmpty())
         m_settings = Geometries::settingsIn(snapshot.groups.constFirst().current.userData);
     const QString group = m_settings.value(groupKey).toString();
@@ -191,6 +191,7 @@ void Keeper::takeOver(const QByteArray& document)
         const WindowOwner::Silence silence(m_owner);
         (void)m_manager.activateGroup(group); // One that is gone is not activated.
     }
+    giveToManager(snapshot); // Afterwards, because a group that is left keeps nothing of it.
     if (const Snapshot::Group* const active = snapshot.find(m_manager.activeGroup()))
         m_windows.begin(Geometries::withToolBars(active->current.states, snapshot.toolBarStates),
                         Geometries::read(m_settings));
@@ -199,6 +200,7 @@ void Keeper::takeOver(const QByteArray& document)
 // The Manager gets the layouts without the windows, each of which gets its part at its own time.
 void Keeper::giveToManager(const Snapshot& snapshot)
 {
+    const Activity::Takeover takeover(m_activity);
     const WindowOwner::Silence silence(m_owner);
     (void)m_manager.fromXml(snapshot.toXml(), /*merge=*/false); // It is valid.
     m_stored.read(snapshot);

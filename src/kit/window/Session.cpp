@@ -12,7 +12,7 @@ Session::Session(Manager& theManager, WindowOwner& theOwner, const Actions& theA
     , activity(manager, owner, stored, giver)
     , windows(owner, giver)
     , keeper(manager, owner, stored, activity, windows)
-    , history(manager, owner, stored, giver, windows, actions)
+    , history(manager, owner, stored, giver, activity, windows, actions)
     , transfer(manager)
     , layoutSlots(manager, stored, windows, keeper, actions)
     , cycle(manager, actions)

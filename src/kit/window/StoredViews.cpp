@@ -13,26 +13,76 @@ StoredViews::StoredViews(Manager& manager, WindowOwner& owner)
     , m_owner(owner)
 {}
 
+const Contents& StoredViews::contents()
+{
+    fetchViews();
+    return m_contents;
+}
+
 StateMap StoredViews::view(const QString& group, const QString& view)
 {
     fetchViews();
-    return m_views.value({group, view});
+    const Contents::Group* const known = m_contents.find(group);
+    const Contents::View* const found = known ? known->find(view) : nullptr;
+    return found ? found->states : StateMap();
 }
 
 bool StoredViews::has(const QString& group, const QString& view)
 {
     fetchViews();
-    return m_views.contains({group, view});
+    const Contents::Group* const known = m_contents.find(group);
+    return known && known->find(view);
+}
+
+StateMap StoredViews::current(const QString& group) const
+{
+    const Contents::Group* const known = m_contents.find(group);
+    return known ? known->current : StateMap();
 }
 
 void StoredViews::setView(const QString& group, const QString& view, const StateMap& states)
 {
-    m_views.insert({group, view}, states);
+    Contents::Group* const known = m_contents.find(group);
+    if (!known)
+        return;
+    const int index = known->indexOf(view);
+    if (index < 0)
+        known->views.append({view, states, QString()});
+    else
+        known->views[index].states = states;
+}
+
+void StoredViews::removeView(const QString& group, const QString& view)
+{
+    Contents::Group* const known = m_contents.find(group);
+    const int index = known ? known->indexOf(view) : -1;
+    if (index < 0)
+        return;
+    known->views.remove(index);
+    if (known->active == view)
+        known->active = QString();
+}
+
+void StoredViews::removeViews()
+{
+    for (Contents::Group& group : m_contents.groups) {
+        group.views.clear();
+        group.active = QString();
+    }
 }
 
 void StoredViews::setCurrent(const QString& group, const StateMap& states)
 {
-    m_currents.insert(group, states);
+    if (Contents::Group* const known = m_contents.find(group))
+        known->current = states;
+}
+
+void StoredViews::setActive(const QString& group, const QString& view)
+{
+    m_contents.activeGroup = group;
+    Contents::Group* const known = m_contents.find(group);
+    if (known)
+        known->active = view;
 }
 
 void StoredViews::readCurrents()
@@ -45,13 +95,12 @@ void StoredViews::readCurrents()
 
 void StoredViews::read(const Snapshot& snapshot)
 {
-    m_views.clear();
-    m_currents.clear();
-    for (const Snapshot::Group& group : snapshot.groups) {
-        m_currents.insert(group.name, group.current.states);
-        for (const Snapshot::View& view : group.views)
-            m_views.insert({group.name, view.name}, view.states);
-    }
+    set(Contents::of(snapshot, m_manager.activeGroup()));
+}
+
+void StoredViews::set(const Contents& contents)
+{
+    m_contents = contents;
     m_knowsViews = true;
     m_knowsCurrents = true;
 }
@@ -61,17 +110,18 @@ void StoredViews::fetchViews()
     if (m_knowsViews)
         return;
     // Kept, because the Manager may be just about to give one of them.
-    const QHash<QString, StateMap> currents = m_currents;
+    const Contents before = m_contents;
     const bool knewCurrents = m_knowsCurrents;
     fetch();
-    m_currents = currents;
     m_knowsCurrents = knewCurrents;
+    for (const Contents::Group& group : before.groups)
+        setCurrent(group.name, group.current);
 }
 
 void StoredViews::fetch()
 {
     const WindowOwner::Silence silence(m_owner);
-    read(Snapshot::fromXml(m_manager.toXml(/*markActive=*/false)));
+    read(Snapshot::fromXml(m_manager.toXml(/*markActive=*/true)));
 }
 
 } // namespace Panorel::Kit::Detail

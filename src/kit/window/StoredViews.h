@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Contents.h"
+
 #include <panorel/StateMap.h>
 
-#include <QHash>
-#include <QPair>
 #include <QString>
 
 namespace Panorel {
@@ -14,7 +14,6 @@ class Manager;
 namespace Panorel::Kit::Detail {
 
 class WindowOwner;
-struct Snapshot;
 
 /**
  * The layouts that a Manager has, which it tells in its document only. What is known is kept, with
@@ -26,17 +25,24 @@ public:
     /** Both must outlive this object. */
     StoredViews(Manager& manager, WindowOwner& owner);
 
+    /** All of it. The active group's current view is not kept up to date. */
+    const Contents& contents();
     /** The states of a saved view; empty if there is none. */
     StateMap view(const QString& group, const QString& view);
     /** Whether there is a saved view of this name. Not while the Manager emits signals, as it may
         have to be asked. */
     bool has(const QString& group, const QString& view);
     /** The states of the current view of a group other than the active one, as far as known. */
-    StateMap current(const QString& group) const { return m_currents.value(group); }
+    StateMap current(const QString& group) const;
 
+    /** A view that there is not yet comes last. */
     void setView(const QString& group, const QString& view, const StateMap& states);
-    void removeView(const QString& group, const QString& view) { m_views.remove({group, view}); }
+    void removeView(const QString& group, const QString& view);
+    /** There are no views in any group. */
+    void removeViews();
     void setCurrent(const QString& group, const StateMap& states);
+    /** The active view of the active group is @p view; null if there is none. */
+    void setActive(const QString& group, const QString& view);
 
     /** The saved views are read again when one is needed. */
     void forgetViews() { m_knowsViews = false; }
@@ -47,17 +53,15 @@ public:
     void readCurrents();
     /** Takes all from @p snapshot, which is what the Manager has. */
     void read(const Snapshot& snapshot);
+    void set(const Contents& contents);
 
 private:
-    using Views = QHash<QPair<QString, QString>, StateMap>;
-
     void fetchViews();
     void fetch();
 
     Manager& m_manager;
     WindowOwner& m_owner;
-    Views m_views;
-    QHash<QString, StateMap> m_currents;
+    Contents m_contents;
     bool m_knowsViews = false;
     bool m_knowsCurrents = false;
 };

@@ -87,8 +87,10 @@ void WindowWatch::noteGiven(const QByteArray& state)
 QByteArray WindowWatch::state()
 {
     // Out of sight it does not have its real size, so what it is to get tells more than it does.
-    if (window() && !isClosed() && (m_pending.isEmpty() || isOnScreen() || isRearranged()))
-        m_state = m_giver.stateOf(*window());
+    if (window() && !isClosed()) {
+        const bool showsIt = m_pending.isEmpty() || isOnScreen() || isRearranged();
+        m_state = showsIt ? m_giver.stateOf(*window()) : m_pending;
+    }
     return m_state;
 }
 
