@@ -111,17 +111,22 @@ bool Tour::cycle()
 {
     const Shown wide = shown();
     QWidget& button = m_workbench.button();
+    const QPoint place = button.mapToGlobal(QPoint());
+    const QPoint left(8, button.height() / 2);
     // Standard, Focus, Wide: after the last comes the first.
-    click(button, QPoint(8, button.height() / 2));
+    click(button, left);
     if (!step(QStringLiteral("next"), QStringLiteral("The button goes on to \"Standard\"."),
               m_workbench.manager().activeView() == Workbench::tr("Standard")))
         return false;
-    click(button, QPoint(8, button.height() / 2));
+    click(button, left);
     if (!step(QStringLiteral("next-again"), QStringLiteral("Once more to \"Focus\"."),
               m_workbench.manager().activeView() == Workbench::tr("Focus")))
         return false;
-    click(button, QPoint(8, button.height() / 2));
-    return step(QStringLiteral("next-wide"), QStringLiteral("And round to \"Wide\"."), wide);
+    const bool stays = button.mapToGlobal(QPoint()) == place;
+    click(button, left);
+    return step(QStringLiteral("next-wide"), QStringLiteral("And round to \"Wide\"."), wide) &&
+           step(QStringLiteral("next-stays"), QStringLiteral("It has always been under the mouse."),
+                stays);
 }
 
 bool Tour::deleteAndUndo()
@@ -225,10 +230,12 @@ bool Tour::chooseImports()
     chooseFile(
         good, [import] { click(*import, import->rect().center()); }, [] {});
     QWidget* chooser = nullptr;
-    (void)QTest::qWaitFor([&chooser] {
-        chooser = QApplication::activeModalWidget();
-        return chooser && !qobject_cast<QFileDialog*>(chooser);
-    });
+    (void)QTest::qWaitFor(
+        [&chooser] {
+            chooser = QApplication::activeModalWidget();
+            return chooser && !qobject_cast<QFileDialog*>(chooser);
+        },
+        patience);
     if (!step(QStringLiteral("import-chooser"),
               QStringLiteral("An import shows what is in the file, before anything changes."),
               chooser))
@@ -326,7 +333,7 @@ QDialog* Tour::openDialog()
         return nullptr;
     press(Qt::Key_Return);
     auto* dialog = m_workbench.editor().findChild<QDialog*>();
-    if (!dialog || !QTest::qWaitForWindowActive(dialog))
+    if (!dialog || !QTest::qWaitForWindowActive(dialog, patience))
         return nullptr;
     settle();
     return dialog;

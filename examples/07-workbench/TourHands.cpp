@@ -112,7 +112,7 @@ void chooseFile(const QString& fileName, const std::function<void()>& open,
             dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
             return dialog != nullptr;
         };
-        if (!QTest::qWaitFor(isOpen))
+        if (!QTest::qWaitFor(isOpen, patience))
             return;
         auto* edit = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
         edit->setText(fileName);

@@ -12,6 +12,9 @@ class QMenu;
 /** What the tour does with keyboard and mouse, as the events of a user. */
 namespace TourHands {
 
+/** How many milliseconds a window may take to appear on a busy machine. */
+constexpr int patience = 60000;
+
 /** Has the keyboard in @p window whenever no other window of the program has it. */
 void startFrom(QWidget& window);
 

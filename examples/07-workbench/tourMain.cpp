@@ -77,7 +77,7 @@ int main(int argc, char* argv[])
         return 1;
     }
     // Whatever waits for a menu or dialog that never comes.
-    QTimer::singleShot(120000, [] {
+    QTimer::singleShot(250000, [] {
         QTextStream(stderr) << "workbench-tour: it does not end\n";
         std::exit(1);
     });

@@ -239,7 +239,7 @@ void floatAndEnd(const QString& way)
     QTimer::singleShot(0, qApp, found->run);
 }
 
-bool areBack()
+bool floatingDocksAreBack()
 {
     // On X11, Qt may take the window for one at (0, 0) if its manager answers late.
     const bool isPlaceKnown = QGuiApplication::platformName() == QLatin1String("offscreen");
@@ -255,7 +255,7 @@ bool areBack()
         patience);
 }
 
-bool areClosed()
+bool floatingDocksAreClosed()
 {
     const QList<QDockWidget*> all = docks();
     return QTest::qWaitFor(

@@ -10,9 +10,9 @@ void floatAndEnd(const QString& way);
 
 /** Whether these dock widgets are floating, visible and where they were before the program ended.
  */
-bool areBack();
+bool floatingDocksAreBack();
 
 /** Whether they are floating and closed. */
-bool areClosed();
+bool floatingDocksAreClosed();
 
 } // namespace Panorel::Tests::Ends

@@ -103,7 +103,7 @@ bool savesAndSwitches()
            check(files.isVisible(), "the layout brings the dock widget back");
 }
 
-bool hasKept()
+bool hasLayoutOfLastRun()
 {
     const Panorel::Menu& menu = menuOf(windowWithFiles());
     const QAction* wide = entry(&menu, QStringLiteral("Wide"));
@@ -111,7 +111,7 @@ bool hasKept()
            check(wide->isChecked(), "it is the active one, as it was");
 }
 
-bool hasMovedAway()
+bool reportsDamagedFile()
 {
     const QMainWindow& window = windowWithFiles();
     const QString message = part<QStatusBar>(window).currentMessage();
@@ -137,15 +137,16 @@ bool hasArrangement()
     QMainWindow& window = windowWithFiles();
     QDockWidget& files = filesDock();
     auto& outline = part<QDockWidget>(window, QStringLiteral("Outline"));
-    const bool isAsLeft = QTest::qWaitFor([&] {
+    const auto isLeft = [&] {
         return outline.isHidden() && window.dockWidgetArea(&files) == Qt::RightDockWidgetArea;
-    });
+    };
+    const bool isAsLeft = QTest::qWaitFor(isLeft, 30000);
     outline.show();
     return check(isAsLeft, "the dock widgets are as they were left") &&
            check(window.size() == QSize(640, 400), "the window has its size");
 }
 
-bool hasRecovered()
+bool recoversFromDamage()
 {
     const QStringList kept = QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation))
                                  .entryList({QStringLiteral("*.unreadable-1")});
@@ -196,7 +197,7 @@ Seen afterSwitch(const QString& windowTitle)
     return {dock.isVisible(), bar.isVisible()};
 }
 
-bool merges()
+bool mergingKeepsToolBars()
 {
     const Seen plain = afterSwitch(QStringLiteral("As saved"));
     const Seen merged = afterSwitch(QStringLiteral("Merged"));
@@ -205,7 +206,7 @@ bool merges()
            check(!merged.bar, "and the tool bar stays hidden");
 }
 
-bool cycles()
+bool buttonCycles()
 {
     const QMainWindow& window = windowWithFiles();
     QDockWidget& files = filesDock();
@@ -228,16 +229,16 @@ bool useExample(const QString& name)
         const char* name;
         bool (*run)();
     } uses[] = {{"savesAndSwitches", savesAndSwitches},
-                {"hasKept", hasKept},
-                {"hasMovedAway", hasMovedAway},
+                {"hasLayoutOfLastRun", hasLayoutOfLastRun},
+                {"reportsDamagedFile", reportsDamagedFile},
                 {"keepsArrangement", keepsArrangement},
                 {"hasArrangement", hasArrangement},
-                {"hasRecovered", hasRecovered},
+                {"recoversFromDamage", recoversFromDamage},
                 {"switchesGroups", switchesGroups},
-                {"merges", merges},
-                {"cycles", cycles},
-                {"areBack", Ends::areBack},
-                {"areClosed", Ends::areClosed}};
+                {"mergingKeepsToolBars", mergingKeepsToolBars},
+                {"buttonCycles", buttonCycles},
+                {"floatingDocksAreBack", Ends::floatingDocksAreBack},
+                {"floatingDocksAreClosed", Ends::floatingDocksAreClosed}};
     for (const auto& known : uses) {
         if (name == QLatin1String(known.name))
             return known.run();

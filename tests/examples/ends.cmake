@@ -10,7 +10,7 @@ target_link_libraries(two-windows PRIVATE Panorel::Panorel)
 function(panorel_end_program name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "THEN" "WAYS;RUNNER")
     if(NOT arg_THEN)
-        set(arg_THEN areBack)
+        set(arg_THEN floatingDocksAreBack)
     endif()
     foreach(way IN LISTS arg_WAYS)
         set(test "ends.${name}.${way}")
@@ -32,12 +32,12 @@ endfunction()
 panorel_end_program(01-first-layouts WAYS
     closeWindows closeAllWindows closeDocksFirstAndAsk closeAtSecondTry closeAndReopenDock
     closeAndQuitLater quit quitEvent)
-panorel_end_program(01-first-layouts WAYS closeDock THEN areClosed)
+panorel_end_program(01-first-layouts WAYS closeDock THEN floatingDocksAreClosed)
 panorel_end_program(04-safe-storage WAYS closeWindows closeAllWindows quit)
 panorel_end_program(08-kit WAYS
     closeWindows closeAllWindows closeDocksFirstAndAsk closeAtSecondTry closeAndReopenDock
     closeAndQuitLater quit quitEvent)
-panorel_end_program(08-kit WAYS closeDock THEN areClosed)
+panorel_end_program(08-kit WAYS closeDock THEN floatingDocksAreClosed)
 panorel_end_program(migration WAYS closeWindows closeAllWindows quit)
 panorel_end_program(two-windows WAYS closeOneByOne closeAllWindows closeDocksFirstAndAsk quit quitEvent)
 
