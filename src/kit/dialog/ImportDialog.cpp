@@ -10,7 +10,6 @@
 #include <QAction>
 #include <QButtonGroup>
 #include <QDialogButtonBox>
-#include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -30,7 +29,7 @@ ImportDialog::ImportDialog(const ImportSource& source, const Snapshot& target,
     , m_theirs(new LayoutPreview(this))
     , m_own(new LayoutPreview(this))
     , m_ownTitle(new QLabel(tr("Yours of the same name:"), this))
-    , m_choiceBox(new QGroupBox(tr("The name is taken"), this))
+    , m_choiceBox(new QWidget(this))
     , m_choices(new QButtonGroup(this))
 {
     setWindowTitle(tr("Import Layouts"));
@@ -86,9 +85,13 @@ QWidget* ImportDialog::createDetails()
 
 QWidget* ImportDialog::createChoices()
 {
+    m_choiceBox->setObjectName(QStringLiteral("choices"));
     auto* layout = new QVBoxLayout(m_choiceBox);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(new QLabel(tr("The name is taken:")));
     const auto add = [&](const QString& text, Choice choice) {
         auto* button = new QRadioButton(text);
+        button->setAccessibleDescription(tr("The name is taken:"));
         layout->addWidget(button);
         m_choices->addButton(button, static_cast<int>(choice));
     };

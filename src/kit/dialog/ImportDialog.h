@@ -7,7 +7,6 @@
 #include <QDialog>
 
 class QButtonGroup;
-class QGroupBox;
 class QLabel;
 class QPushButton;
 
@@ -52,7 +51,7 @@ private:
     LayoutPreview* m_theirs;
     LayoutPreview* m_own;
     QLabel* m_ownTitle;
-    QGroupBox* m_choiceBox;
+    QWidget* m_choiceBox;
     QButtonGroup* m_choices;
     QPushButton* m_import = nullptr;
 };

@@ -120,6 +120,13 @@ void LayoutDelegate::paintCheck(QPainter& painter, const QStyleOptionViewItem& o
     box.state |= check.toInt() == Qt::Checked ? QStyle::State_On : QStyle::State_Off;
     styleOf(option)->drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &box, &painter,
                                    option.widget);
+    // Some styles make the frame darker than the background, which dark ones hide.
+    if (LayoutPicture::isDark(option.palette)) {
+        painter.setPen(
+            faint(option.palette.color(QPalette::Text), option.palette.color(QPalette::Base)));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(rect.adjusted(0, 0, -1, -1));
+    }
 }
 
 // Below all else, because some styles fill it.
