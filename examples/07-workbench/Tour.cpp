@@ -131,14 +131,36 @@ bool Tour::cycle()
 
 bool Tour::deleteAndUndo()
 {
+    const QStringList before = m_workbench.manager().views();
     if (!openMenu() || !openSubMenu(deleteMenu()))
         return false;
     const bool found = goTo(deleteMenu(), entry(deleteMenu(), QStringLiteral("Wide")));
     if (!step(QStringLiteral("delete"), QStringLiteral("The other sub-menu deletes."), found))
         return false;
     press(Qt::Key_Return);
-    return step(QStringLiteral("deleted"), QStringLiteral("The layout is gone."),
-                !m_workbench.manager().views().contains(QStringLiteral("Wide")));
+    if (!step(QStringLiteral("deleted"), QStringLiteral("The layout is gone, with a way back."),
+              !m_workbench.manager().views().contains(QStringLiteral("Wide"))))
+        return false;
+    press(Qt::Key_Z, Qt::ControlModifier | Qt::AltModifier);
+    return step(QStringLiteral("undone"), QStringLiteral("Ctrl+Alt+Z brings it back."),
+                m_workbench.manager().views() == before) &&
+           undoSwitch();
+}
+
+// What was not saved comes back, too.
+bool Tour::undoSwitch()
+{
+    m_workbench.manager().activateView(QStringLiteral("Wide"));
+    disturb();
+    const Shown disturbed = shown();
+    m_workbench.manager().activateView(Workbench::tr("Focus"));
+    // Typing in the editor has its own undo, and does not take this one away.
+    press(Qt::Key_Escape);
+    press(Qt::Key_Z, Qt::ControlModifier | Qt::AltModifier);
+    return step(QStringLiteral("switch-undone"),
+                QStringLiteral("A switch is undone, with what was not saved."), disturbed) &&
+           step(QStringLiteral("switch-undone-name"), QStringLiteral("The name is right as well."),
+                activeLabel() == QLatin1String("Wide"));
 }
 
 bool Tour::nextByKeys()
@@ -254,9 +276,13 @@ bool Tour::resetAll()
     picture(QStringLiteral("reset"));
     press(Qt::Key_Return);
     const QStringList shipped{Workbench::tr("Standard"), Workbench::tr("Focus")};
-    return step(QStringLiteral("reset-done"),
-                QStringLiteral("A reset brings back the first layouts."),
-                m_workbench.manager().views() == shipped);
+    if (!step(QStringLiteral("reset-done"),
+              QStringLiteral("A reset brings back the first layouts."),
+              m_workbench.manager().views() == shipped))
+        return false;
+    press(Qt::Key_Z, Qt::ControlModifier | Qt::AltModifier);
+    return step(QStringLiteral("reset-undone"), QStringLiteral("Even that can be undone."),
+                m_workbench.manager().views().contains(QStringLiteral("Wide")));
 }
 
 bool Tour::showLongName()
@@ -424,6 +450,11 @@ bool Tour::step(const QString& name, const QString& text, const Shown& expected)
     if (!wrong.isEmpty())
         print(wrong);
     return step(name, text, wrong.isEmpty());
+}
+
+QString Tour::activeLabel() const
+{
+    return m_workbench.editor().statusBar()->findChild<QLabel*>()->text();
 }
 
 bool Tour::hasMessage() const

@@ -33,6 +33,7 @@ private:
     bool switchByMouse();
     bool cycle();
     bool deleteAndUndo();
+    bool undoSwitch();
     bool nextByKeys();
     bool switchGroups();
     bool importBadFiles();
@@ -57,6 +58,7 @@ private:
     void picture(const QString& name);
     bool step(const QString& name, const QString& text, bool holds);
     bool step(const QString& name, const QString& text, const Shown& expected);
+    QString activeLabel() const;
     bool hasMessage() const;
 
     Workbench& m_workbench;

@@ -43,7 +43,7 @@ bool comesBack(const QString& file)
     const bool group = workbench.manager().activeGroup() == QLatin1String("Debugging");
     const bool windows = workbench.editor().dock(QStringLiteral("Console"))->isHidden();
     workbench.manager().activateGroup(QStringLiteral("Editing"));
-    const bool views = workbench.manager().views().contains(QStringLiteral("Layout 1"));
+    const bool views = workbench.manager().views().contains(QStringLiteral("Wide"));
     QTextStream(stdout) << (group && windows && views
                                 ? "The next run has the layouts, the group and the windows.\n"
                                 : "FAILED: the next run is not as this one was left\n");
