@@ -190,7 +190,8 @@ void clickCloseButton()
     const auto hasTitleBar = [handle] { return handle->frameMargins().top() > 0; };
     if (!QTest::qWaitFor(hasTitleBar, patience))
         qFatal("the window has no title bar");
-    // The last button of openbox there. Relative to the window, because Qt may not know where it is.
+    // The last button of openbox there. Relative to the window, because Qt may not know where it
+    // is.
     const QPoint corner(window->width() + handle->frameMargins().right(),
                         -handle->frameMargins().top());
     const QPoint button = corner + QPoint(-11, 11);
