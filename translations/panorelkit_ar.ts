@@ -87,10 +87,6 @@
         <translation>تخطيطك بالاسم نفسه:</translation>
     </message>
     <message>
-        <source>The name is taken</source>
-        <translation>الاسم مستخدم</translation>
-    </message>
-    <message>
         <source>Import Layouts</source>
         <translation>استيراد تخطيطات</translation>
     </message>
@@ -137,6 +133,10 @@
     <message>
         <source>Picture of your &quot;%1&quot;</source>
         <translation>صورة &quot;%1&quot; الخاص بك</translation>
+    </message>
+    <message>
+        <source>The name is taken:</source>
+        <translation>الاسم مستخدم:</translation>
     </message>
 </context>
 <context>
@@ -507,6 +507,45 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::History</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>إعادة تسمية &quot;%1&quot; إلى &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>New &quot;%1&quot;</source>
+        <translation>جديد &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>حذف &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Save &quot;%1&quot;</source>
+        <translation>حفظ &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Reorder Layouts</source>
+        <translation>إعادة ترتيب التخطيطات</translation>
+    </message>
+    <message>
+        <source>Switch to &quot;%1&quot;</source>
+        <translation>الانتقال إلى &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Switch to Group &quot;%1&quot;</source>
+        <translation>الانتقال إلى المجموعة &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>الرجوع إلى &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Change Layouts</source>
+        <translation>تغيير التخطيطات</translation>
     </message>
 </context>
 <context>

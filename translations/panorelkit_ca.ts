@@ -87,10 +87,6 @@
         <translation>La vostra amb el mateix nom:</translation>
     </message>
     <message>
-        <source>The name is taken</source>
-        <translation>El nom ja s’utilitza</translation>
-    </message>
-    <message>
         <source>Import Layouts</source>
         <translation>Importa disposicions</translation>
     </message>
@@ -137,6 +133,10 @@
     <message>
         <source>Picture of your &quot;%1&quot;</source>
         <translation>Imatge de la vostra &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>The name is taken:</source>
+        <translation>El nom ja s’utilitza:</translation>
     </message>
 </context>
 <context>
@@ -507,6 +507,45 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::History</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>Canvia el nom de &quot;%1&quot; a &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>New &quot;%1&quot;</source>
+        <translation>Crea &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>Suprimeix &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Save &quot;%1&quot;</source>
+        <translation>Desa &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Reorder Layouts</source>
+        <translation>Reordena les disposicions</translation>
+    </message>
+    <message>
+        <source>Switch to &quot;%1&quot;</source>
+        <translation>Canvia a &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Switch to Group &quot;%1&quot;</source>
+        <translation>Canvia al grup &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>Torna a &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Change Layouts</source>
+        <translation>Canvia les disposicions</translation>
     </message>
 </context>
 <context>

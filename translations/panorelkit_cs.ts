@@ -87,10 +87,6 @@
         <translation>Vaše se stejným názvem:</translation>
     </message>
     <message>
-        <source>The name is taken</source>
-        <translation>Název je již použit</translation>
-    </message>
-    <message>
         <source>Import Layouts</source>
         <translation>Importovat rozložení</translation>
     </message>
@@ -137,6 +133,10 @@
     <message>
         <source>Picture of your &quot;%1&quot;</source>
         <translation>Obrázek vašeho &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>The name is taken:</source>
+        <translation>Název je již použit:</translation>
     </message>
 </context>
 <context>
@@ -507,6 +507,45 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::History</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>Přejmenovat &quot;%1&quot; na &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>New &quot;%1&quot;</source>
+        <translation>Vytvořit &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>Smazat &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Save &quot;%1&quot;</source>
+        <translation>Uložit &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Reorder Layouts</source>
+        <translation>Změnit pořadí rozložení</translation>
+    </message>
+    <message>
+        <source>Switch to &quot;%1&quot;</source>
+        <translation>Přepnout na &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Switch to Group &quot;%1&quot;</source>
+        <translation>Přepnout na skupinu &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>Vrátit se k &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Change Layouts</source>
+        <translation>Změnit rozložení</translation>
     </message>
 </context>
 <context>

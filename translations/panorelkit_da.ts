@@ -87,10 +87,6 @@
         <translation>Dit med samme navn:</translation>
     </message>
     <message>
-        <source>The name is taken</source>
-        <translation>Navnet er optaget</translation>
-    </message>
-    <message>
         <source>Import Layouts</source>
         <translation>Importer layouter</translation>
     </message>
@@ -137,6 +133,10 @@
     <message>
         <source>Picture of your &quot;%1&quot;</source>
         <translation>Billede af dit &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>The name is taken:</source>
+        <translation>Navnet er optaget:</translation>
     </message>
 </context>
 <context>
@@ -507,6 +507,45 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::History</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>Omdøb &quot;%1&quot; til &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>New &quot;%1&quot;</source>
+        <translation>Ny &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>Slet &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Save &quot;%1&quot;</source>
+        <translation>Gem &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Reorder Layouts</source>
+        <translation>Flyt om på layouter</translation>
+    </message>
+    <message>
+        <source>Switch to &quot;%1&quot;</source>
+        <translation>Skift til &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Switch to Group &quot;%1&quot;</source>
+        <translation>Skift til gruppen &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>Tilbage til &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Change Layouts</source>
+        <translation>Ændr layouter</translation>
     </message>
 </context>
 <context>

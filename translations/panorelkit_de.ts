@@ -87,10 +87,6 @@
         <translation>Ihres mit demselben Namen:</translation>
     </message>
     <message>
-        <source>The name is taken</source>
-        <translation>Der Name ist vergeben</translation>
-    </message>
-    <message>
         <source>Import Layouts</source>
         <translation>Fensterlayouts importieren</translation>
     </message>
@@ -137,6 +133,10 @@
     <message>
         <source>Picture of your &quot;%1&quot;</source>
         <translation>Bild Ihres &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>The name is taken:</source>
+        <translation>Der Name ist vergeben:</translation>
     </message>
 </context>
 <context>
@@ -507,6 +507,45 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::History</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>&quot;%1&quot; in &quot;%2&quot; umbenennen</translation>
+    </message>
+    <message>
+        <source>New &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; anlegen</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; löschen</translation>
+    </message>
+    <message>
+        <source>Save &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; speichern</translation>
+    </message>
+    <message>
+        <source>Reorder Layouts</source>
+        <translation>Fensterlayouts umordnen</translation>
+    </message>
+    <message>
+        <source>Switch to &quot;%1&quot;</source>
+        <translation>Zu &quot;%1&quot; wechseln</translation>
+    </message>
+    <message>
+        <source>Switch to Group &quot;%1&quot;</source>
+        <translation>Zur Gruppe &quot;%1&quot; wechseln</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>Zurück zu &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Change Layouts</source>
+        <translation>Fensterlayouts ändern</translation>
     </message>
 </context>
 <context>

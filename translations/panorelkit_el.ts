@@ -87,10 +87,6 @@
         <translation>Η δική σας με το ίδιο όνομα:</translation>
     </message>
     <message>
-        <source>The name is taken</source>
-        <translation>Το όνομα χρησιμοποιείται ήδη</translation>
-    </message>
-    <message>
         <source>Import Layouts</source>
         <translation>Εισαγωγή διατάξεων</translation>
     </message>
@@ -137,6 +133,10 @@
     <message>
         <source>Picture of your &quot;%1&quot;</source>
         <translation>Εικόνα του δικού σας &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>The name is taken:</source>
+        <translation>Το όνομα χρησιμοποιείται ήδη:</translation>
     </message>
 </context>
 <context>
@@ -507,6 +507,45 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::History</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>Μετονομασία του &quot;%1&quot; σε &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>New &quot;%1&quot;</source>
+        <translation>Δημιουργία του &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>Διαγραφή του &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Save &quot;%1&quot;</source>
+        <translation>Αποθήκευση του &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Reorder Layouts</source>
+        <translation>Αναδιάταξη διατάξεων</translation>
+    </message>
+    <message>
+        <source>Switch to &quot;%1&quot;</source>
+        <translation>Μετάβαση στο &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Switch to Group &quot;%1&quot;</source>
+        <translation>Μετάβαση στην ομάδα &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>Επιστροφή στο &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Change Layouts</source>
+        <translation>Αλλαγή διατάξεων</translation>
     </message>
 </context>
 <context>

@@ -87,10 +87,6 @@
         <translation>שלך באותו שם:</translation>
     </message>
     <message>
-        <source>The name is taken</source>
-        <translation>השם תפוס</translation>
-    </message>
-    <message>
         <source>Import Layouts</source>
         <translation>ייבוא פריסות</translation>
     </message>
@@ -137,6 +133,10 @@
     <message>
         <source>Picture of your &quot;%1&quot;</source>
         <translation>תמונה של &quot;%1&quot; שלך</translation>
+    </message>
+    <message>
+        <source>The name is taken:</source>
+        <translation>השם תפוס:</translation>
     </message>
 </context>
 <context>
@@ -507,6 +507,45 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::History</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>שינוי השם של &quot;%1&quot; ל-&quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>New &quot;%1&quot;</source>
+        <translation>יצירת &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>מחיקת &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Save &quot;%1&quot;</source>
+        <translation>שמירת &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Reorder Layouts</source>
+        <translation>שינוי סדר הפריסות</translation>
+    </message>
+    <message>
+        <source>Switch to &quot;%1&quot;</source>
+        <translation>מעבר אל &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Switch to Group &quot;%1&quot;</source>
+        <translation>מעבר לקבוצה &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>חזרה אל &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Change Layouts</source>
+        <translation>שינוי פריסות</translation>
     </message>
 </context>
 <context>

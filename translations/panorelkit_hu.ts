@@ -87,10 +87,6 @@
         <translation>A saját, azonos nevű:</translation>
     </message>
     <message>
-        <source>The name is taken</source>
-        <translation>A név már foglalt</translation>
-    </message>
-    <message>
         <source>Import Layouts</source>
         <translation>Elrendezések importálása</translation>
     </message>
@@ -137,6 +133,10 @@
     <message>
         <source>Picture of your &quot;%1&quot;</source>
         <translation>A saját &quot;%1&quot; képe</translation>
+    </message>
+    <message>
+        <source>The name is taken:</source>
+        <translation>A név már foglalt:</translation>
     </message>
 </context>
 <context>
@@ -507,6 +507,45 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::History</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>&quot;%1&quot; átnevezése erre: &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>New &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; létrehozása</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; törlése</translation>
+    </message>
+    <message>
+        <source>Save &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; mentése</translation>
+    </message>
+    <message>
+        <source>Reorder Layouts</source>
+        <translation>Elrendezések átrendezése</translation>
+    </message>
+    <message>
+        <source>Switch to &quot;%1&quot;</source>
+        <translation>Váltás erre: &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Switch to Group &quot;%1&quot;</source>
+        <translation>Váltás erre a csoportra: &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>Vissza ehhez: &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Change Layouts</source>
+        <translation>Elrendezések módosítása</translation>
     </message>
 </context>
 <context>

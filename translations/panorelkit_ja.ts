@@ -87,10 +87,6 @@
         <translation>同名の既存のレイアウト:</translation>
     </message>
     <message>
-        <source>The name is taken</source>
-        <translation>名前が使用されています</translation>
-    </message>
-    <message>
         <source>Import Layouts</source>
         <translation>レイアウトのインポート</translation>
     </message>
@@ -137,6 +133,10 @@
     <message>
         <source>Picture of your &quot;%1&quot;</source>
         <translation>既存の &quot;%1&quot; の図</translation>
+    </message>
+    <message>
+        <source>The name is taken:</source>
+        <translation>名前が使用されています:</translation>
     </message>
 </context>
 <context>
@@ -507,6 +507,45 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::History</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>&quot;%1&quot; の名前を &quot;%2&quot; に変更</translation>
+    </message>
+    <message>
+        <source>New &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; を作成</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; を削除</translation>
+    </message>
+    <message>
+        <source>Save &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; を保存</translation>
+    </message>
+    <message>
+        <source>Reorder Layouts</source>
+        <translation>レイアウトの順序を変更</translation>
+    </message>
+    <message>
+        <source>Switch to &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; に切り替え</translation>
+    </message>
+    <message>
+        <source>Switch to Group &quot;%1&quot;</source>
+        <translation>グループ &quot;%1&quot; に切り替え</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; に戻す</translation>
+    </message>
+    <message>
+        <source>Change Layouts</source>
+        <translation>レイアウトを変更</translation>
     </message>
 </context>
 <context>

@@ -87,10 +87,6 @@
         <translation>이름이 같은 기존 레이아웃:</translation>
     </message>
     <message>
-        <source>The name is taken</source>
-        <translation>이미 사용 중인 이름</translation>
-    </message>
-    <message>
         <source>Import Layouts</source>
         <translation>레이아웃 가져오기</translation>
     </message>
@@ -137,6 +133,10 @@
     <message>
         <source>Picture of your &quot;%1&quot;</source>
         <translation>기존 &quot;%1&quot;의 그림</translation>
+    </message>
+    <message>
+        <source>The name is taken:</source>
+        <translation>이미 사용 중인 이름:</translation>
     </message>
 </context>
 <context>
@@ -507,6 +507,45 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::History</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>&quot;%1&quot;의 이름을 &quot;%2&quot;(으)로 바꾸기</translation>
+    </message>
+    <message>
+        <source>New &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; 만들기</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; 삭제</translation>
+    </message>
+    <message>
+        <source>Save &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; 저장</translation>
+    </message>
+    <message>
+        <source>Reorder Layouts</source>
+        <translation>레이아웃 순서 바꾸기</translation>
+    </message>
+    <message>
+        <source>Switch to &quot;%1&quot;</source>
+        <translation>&quot;%1&quot;(으)로 전환</translation>
+    </message>
+    <message>
+        <source>Switch to Group &quot;%1&quot;</source>
+        <translation>그룹 &quot;%1&quot;(으)로 전환</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>&quot;%1&quot;(으)로 되돌리기</translation>
+    </message>
+    <message>
+        <source>Change Layouts</source>
+        <translation>레이아웃 변경</translation>
     </message>
 </context>
 <context>

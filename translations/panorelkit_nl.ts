@@ -87,10 +87,6 @@
         <translation>De uwe met dezelfde naam:</translation>
     </message>
     <message>
-        <source>The name is taken</source>
-        <translation>De naam is al in gebruik</translation>
-    </message>
-    <message>
         <source>Import Layouts</source>
         <translation>Indelingen importeren</translation>
     </message>
@@ -137,6 +133,10 @@
     <message>
         <source>Picture of your &quot;%1&quot;</source>
         <translation>Afbeelding van uw &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>The name is taken:</source>
+        <translation>De naam is al in gebruik:</translation>
     </message>
 </context>
 <context>
@@ -507,6 +507,45 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::History</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>&quot;%1&quot; hernoemen naar &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>New &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; aanmaken</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; verwijderen</translation>
+    </message>
+    <message>
+        <source>Save &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; opslaan</translation>
+    </message>
+    <message>
+        <source>Reorder Layouts</source>
+        <translation>Indelingen anders ordenen</translation>
+    </message>
+    <message>
+        <source>Switch to &quot;%1&quot;</source>
+        <translation>Naar &quot;%1&quot; gaan</translation>
+    </message>
+    <message>
+        <source>Switch to Group &quot;%1&quot;</source>
+        <translation>Naar groep &quot;%1&quot; gaan</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>Terug naar &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Change Layouts</source>
+        <translation>Indelingen wijzigen</translation>
     </message>
 </context>
 <context>

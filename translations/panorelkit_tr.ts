@@ -87,10 +87,6 @@
         <translation>Sizin aynı adlı yerleşiminiz:</translation>
     </message>
     <message>
-        <source>The name is taken</source>
-        <translation>Bu ad kullanılıyor</translation>
-    </message>
-    <message>
         <source>Import Layouts</source>
         <translation>Yerleşimleri içe aktar</translation>
     </message>
@@ -137,6 +133,10 @@
     <message>
         <source>Picture of your &quot;%1&quot;</source>
         <translation>Sizin &quot;%1&quot; yerleşiminizin resmi</translation>
+    </message>
+    <message>
+        <source>The name is taken:</source>
+        <translation>Bu ad kullanılıyor:</translation>
     </message>
 </context>
 <context>
@@ -507,6 +507,45 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panorel::Kit::History</name>
+    <message>
+        <source>Rename &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>&quot;%1&quot; adını &quot;%2&quot; yap</translation>
+    </message>
+    <message>
+        <source>New &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; oluştur</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; sil</translation>
+    </message>
+    <message>
+        <source>Save &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; kaydet</translation>
+    </message>
+    <message>
+        <source>Reorder Layouts</source>
+        <translation>Yerleşimleri yeniden sırala</translation>
+    </message>
+    <message>
+        <source>Switch to &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; yerleşimine geç</translation>
+    </message>
+    <message>
+        <source>Switch to Group &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; grubuna geç</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; yerleşimine dön</translation>
+    </message>
+    <message>
+        <source>Change Layouts</source>
+        <translation>Yerleşimleri değiştir</translation>
     </message>
 </context>
 <context>
