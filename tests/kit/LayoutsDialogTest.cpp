@@ -216,6 +216,8 @@ void LayoutsDialogTest::unsoundNamesAreRefused_data()
     QTest::addColumn<QString>("reason");
     QTest::newRow("taken") << "Three"_s
                            << "There is a layout of this name already."_s;
+    QTest::newRow("taken but for blanks") << " Three "_s
+                                          << "There is a layout of this name already."_s;
     QTest::newRow("blank") << "  "_s
                            << "A layout needs a name."_s;
     QTest::newRow("control character")
@@ -240,7 +242,7 @@ void LayoutsDialogTest::unsoundNamesAreRefused()
     QCOMPARE(f.editor()->accessibleDescription(), reason);
     QCOMPARE(f.manager.views(), list("One Two Three"));
     // From here on it can be a name.
-    f.editor()->setText("Four"_s);
+    f.editor()->setText(" Four "_s);
     QVERIFY(!label->isVisible());
     f.press(Qt::Key_Return);
     QTRY_COMPARE(f.manager.views(), list("One Four Three"));

@@ -28,9 +28,15 @@ LayoutEdits::LayoutEdits(const Snapshot& snapshot)
     : m_snapshot(snapshot)
 {}
 
-QString LayoutEdits::refusal(const Snapshot& snapshot, const LayoutId& layout, const QString& name)
+QString LayoutEdits::nameFor(const LayoutId& layout, const QString& text)
 {
-    if (name.trimmed().isEmpty())
+    return text == layout.name ? text : text.trimmed();
+}
+
+QString LayoutEdits::refusal(const Snapshot& snapshot, const LayoutId& layout, const QString& text)
+{
+    const QString name = nameFor(layout, text);
+    if (name.isEmpty())
         return tr("A layout needs a name.");
     if (!LayoutDocument::withGroups({name}).isReadable())
         return tr("A name cannot have control characters.");

@@ -20,8 +20,10 @@ public:
 
     const Snapshot& result() const { return m_snapshot; }
 
-    /** Why @p layout cannot be renamed to @p name, in words; null if it can. */
-    static QString refusal(const Snapshot& snapshot, const LayoutId& layout, const QString& name);
+    /** The name that @p layout gets if the user types @p text: without blanks around it. */
+    static QString nameFor(const LayoutId& layout, const QString& text);
+    /** Why @p layout cannot get that name, in words; null if it can. */
+    static QString refusal(const Snapshot& snapshot, const LayoutId& layout, const QString& text);
 
     void rename(const LayoutId& layout, const QString& name);
     void remove(const LayoutIds& layouts);

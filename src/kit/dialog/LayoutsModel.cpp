@@ -31,10 +31,10 @@ bool LayoutsModel::setData(const QModelIndex& index, const QVariant& value, int 
         return false;
     const LayoutId layout = idOf(index);
     const QString text = value.toString();
-    const QString name = text == layout.name ? text : text.trimmed();
+    const QString name = LayoutEdits::nameFor(layout, text);
     if (name == layout.name)
         return true;
-    if (!LayoutEdits::refusal(snapshot(), layout, name).isNull()) {
+    if (!LayoutEdits::refusal(snapshot(), layout, text).isNull()) {
         Q_EMIT refused(index, text);
         return false;
     }
