@@ -95,9 +95,9 @@ public:
      * layouts to save; then it is renamed too. Layouts that another program has saved in it
      * meanwhile are taken over; one that both have changed is kept twice.
      *
-     * A Manager that is deleted first takes what it was told in the last half second with it, such
-     * as a new layout; not so the windows' arrangement, and nothing if it is deleted by
-     * deleteLater(). save() before that keeps all.
+     * If the Manager is deleted before this object, its changes of the last half second, such as a
+     * new layout, are not saved; the arrangement of the windows is. Call save() before, or delete
+     * the Manager by deleteLater(): then all is saved.
      * @param fileName where; an empty one is "layouts.views" in the usual folder,
      * QStandardPaths::AppDataLocation.
      */
@@ -120,34 +120,35 @@ public:
      * Makes the dialog "Layouts": all layouts of all groups with a picture of each, to switch to,
      * rename, drag into another order or group, duplicate and delete, to export some of them and to
      * import chosen ones of a file. It says what differs from the windows, shows changes from
-     * elsewhere, and each of its own can be undone. What is done is told by message() too.
+     * elsewhere, and each of its own can be undone. message() reports what is done.
      *
-     * It is not shown yet and need not be modal. Any number can be made; each may outlive this
-     * object and the Manager, closes without one of them, and is disabled then.
+     * It is not shown yet and need not be modal. Any number can be made. Each may outlive this
+     * object and the Manager; when one of them is deleted, the dialog closes and is disabled.
      * @param parent deletes the dialog; may be null.
      */
     QDialog* createDialog(QWidget* parent);
 
     /**
-     * Nine actions, each of which activates the layout that the user has given its slot, also one
-     * of another group, and names it; disabled if there is none. Owned by this object, and added to
-     * each window, so that their shortcuts work there. Which layouts they have is kept in the file.
+     * Nine actions, called slots. The user assigns a layout to a slot, also one of another group.
+     * The action then has its name and activates it; an empty slot is disabled. Owned by this
+     * object, and added to each window, so that their shortcuts work there. The layouts of the
+     * slots are kept in the file.
      */
     QList<QAction*> slotActions() const;
     /** Whether the actions have shortcuts. */
     bool areSlotShortcutsEnabled() const;
     /**
      * Gives the actions the shortcuts Ctrl+Alt+1 to Ctrl+Alt+9, which common programs leave free,
-     * or takes them away. Off until the application or the user turns them on, and kept in the
-     * file: start() takes over what the file says. A shortcut that the application sets itself
-     * stays as it is, on or off.
+     * or removes them. Off until the application or the user turns them on. This is kept in the
+     * file, and start() reads it from there. A shortcut that the application sets itself always
+     * stays as it is.
      */
     void setSlotShortcutsEnabled(bool enabled);
 
-    /** Activates the next layout of the active group, in the Manager's order and from the last on
-        to the first; disabled where there is no other. Owned by this object; no shortcut. */
+    /** Activates the next layout of the active group in the Manager's order, after the last one the
+        first; disabled if there is no other. Owned by this object; without a shortcut. */
     QAction* nextAction() const;
-    /** The same with the previous one. */
+    /** Activates the previous layout in the same way. */
     QAction* previousAction() const;
 
     /** Whether the windows are locked. */
@@ -158,17 +159,17 @@ public:
      * parts stay where they are. Menus still show and hide parts, sizes can be changed, and layouts
      * be switched. Kept in the file: start() takes over what the file says, if anything.
      *
-     * Unlocking, which the end of the Manager or of this object does too, gives each part back what
-     * it allowed. QDockWidget::features() and QToolBar::isMovable() are less meanwhile. If the
-     * application sets them while the windows are locked, it is what it has set that a part
-     * gets then; but what it only takes away, which is away already, comes back.
+     * Unlocking gives each part back what it allowed before; so does deleting the Manager or this
+     * object. While the windows are locked, QDockWidget::features() and QToolBar::isMovable()
+     * return less. If the application sets them meanwhile, a part gets what was set when it is
+     * unlocked. But what the application only removes is removed already, so it comes back.
      */
     void setLocked(bool locked);
 
     /**
-     * Undo and redo of all changes of the layouts and of each switch between them, whoever made
-     * them. Owned by this object. It may be shown in a QUndoView and be added to a QUndoGroup. Its
-     * actions have no shortcuts of their own. Empty without the Manager.
+     * Undo and redo of all changes of the layouts and of each switch between them, no matter what
+     * made them. Owned by this object. It may be shown in a QUndoView and added to a QUndoGroup.
+     * The actions in the menu have no shortcuts. Empty without the Manager.
      */
     QUndoStack* history() const;
 
@@ -197,7 +198,7 @@ public:
     QStringList check() const;
 
 Q_SIGNALS:
-    /** The windows were locked or unlocked, and the parts are so already. */
+    /** Emitted after the windows were locked or unlocked. */
     void lockedChanged(bool locked);
     /** One sentence for the user, such as for a status bar. A problem() is reported once. */
     void message(const QString& text);
