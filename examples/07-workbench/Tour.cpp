@@ -221,10 +221,10 @@ bool Tour::importGoodFile()
 bool Tour::useDialog()
 {
     QDialog* dialog = openDialog();
+    press(Qt::Key_Up);
     if (!step(QStringLiteral("dialog"), QStringLiteral("A dialog shows all layouts."), dialog))
         return false;
     const QStringList before = m_workbench.manager().views();
-    press(Qt::Key_Up);
     press(Qt::Key_Delete);
     if (!step(QStringLiteral("dialog-deleted"), QStringLiteral("In it they are deleted by key."),
               m_workbench.manager().views().size() == before.size() - 1))
