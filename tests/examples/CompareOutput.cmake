@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # cmake -DPROGRAM=FILE -DARGUMENT=TEXT -DEXPECTED=FILE -DRESULT=NUMBER -P CompareOutput.cmake
-execute_process(COMMAND "${PROGRAM}" "${ARGUMENT}" TIMEOUT 60
+execute_process(COMMAND "${PROGRAM}" "${ARGUMENT}" TIMEOUT 120
     OUTPUT_VARIABLE output RESULT_VARIABLE result)
 file(READ "${EXPECTED}" expected)
 if(NOT output STREQUAL expected OR NOT result EQUAL RESULT)
