@@ -174,6 +174,15 @@ public:
     QUndoStack* history() const;
 
     /**
+     * Whether the user has rearranged something since the windows got the active layout, or it was
+     * saved, and has not put it back. What a user sees counts: sizes by more than a tenth, and only
+     * as long as the window has the same size; with mergeOnApply no tool bars. Parts that the
+     * application adds and removes do not count. False without an active layout and without the
+     * Manager.
+     */
+    bool isModified() const;
+
+    /**
      * Adds the layouts of a file to those that are there, in place of those of the same name, and
      * shows its working layout. Parts that are not sound are left out.
      * @param problem if not null, gets why nothing was changed, in the user's language; else null.
@@ -200,6 +209,8 @@ public:
 Q_SIGNALS:
     /** Emitted after the windows were locked or unlocked. */
     void lockedChanged(bool locked);
+    /** isModified() is another now; by then a change is a moment old. */
+    void modifiedChanged(bool modified);
     /** One sentence for the user, such as for a status bar. A problem() is reported once. */
     void message(const QString& text);
 

@@ -2,6 +2,7 @@
 #include "KitEntries.h"
 
 #include "GroupMenu.h"
+#include "ModifiedEntries.h"
 
 #include "../dialog/LayoutsDialog.h"
 #include "../history/StepActions.h"
@@ -21,6 +22,7 @@ KitEntries::KitEntries(Menu& menu, Layouts& layouts, Session& session)
 {
     menu.addSeparator();
     addGroups();
+    addSaveAndBack();
     addUndoAndRedo();
     menu.addSeparator();
     addActions();
@@ -46,6 +48,13 @@ void KitEntries::addGroups()
 {
     if (m_session.manager.groups().size() > 1)
         add((new GroupMenu(m_session.manager, &m_menu))->menuAction());
+}
+
+void KitEntries::addSaveAndBack()
+{
+    const auto* const entries = new ModifiedEntries(m_menu, m_session);
+    add(entries->save());
+    add(entries->back());
 }
 
 void KitEntries::addUndoAndRedo()

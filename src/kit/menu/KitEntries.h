@@ -36,6 +36,7 @@ private:
     /** @param entry may be the menu's or anybody's. */
     void add(QAction* entry);
     void addGroups();
+    void addSaveAndBack();
     void addUndoAndRedo();
     void addActions();
     void addDialog(Layouts& layouts);

@@ -317,6 +317,21 @@ void Activity::finish()
     Q_EMIT done(operation);
 }
 
+// The Manager would restore it by itself, as it is stored.
+void Activity::giveActiveView()
+{
+    if (m_view.isNull())
+        return;
+    Operation operation;
+    operation.hasGiven = true;
+    operation.hasGivenToolBars = !m_merges;
+    operation.before = m_giver.live();
+    Q_EMIT switching();
+    m_giver.give(m_stored.view(m_group, m_view), m_merges ? operation.before : StateMap());
+    announce(/*views=*/false, /*group=*/false);
+    Q_EMIT done(operation);
+}
+
 void Activity::announce(bool views, bool group)
 {
     resynchronize();

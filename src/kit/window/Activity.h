@@ -84,6 +84,8 @@ public:
         Activity& m_activity;
     };
 
+    /** Gives the windows the active view again and makes the Manager tell so. */
+    void giveActiveView();
     /** Emits the Manager's signals for what was done while they were blocked: groupModified if
         @p views, groupActivated if @p group, and viewActivated. */
     void announce(bool views, bool group);

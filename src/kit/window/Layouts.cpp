@@ -26,9 +26,12 @@ Layouts::Layouts(Manager& manager, QObject* parent)
     connect(&manager, &QObject::destroyed, this, [this] {
         m_session->keeper.finish();
         const bool wasLocked = isLocked();
+        const bool wasModified = isModified();
         m_session.reset();
         if (wasLocked)
             Q_EMIT lockedChanged(false);
+        if (wasModified)
+            Q_EMIT modifiedChanged(false);
     });
     // Those that are there are looked at when it starts.
     connect(&m_session->windows, &Detail::Windows::added, this, [this](QMainWindow* window) {
@@ -37,6 +40,8 @@ Layouts::Layouts(Manager& manager, QObject* parent)
     });
     connect(&m_session->keeper, &Detail::Keeper::message, this, &Layouts::message);
     connect(&m_session->lock, &Detail::Lock::lockedChanged, this, &Layouts::lockedChanged);
+    connect(&m_session->modification, &Detail::Modification::modifiedChanged, this,
+            &Layouts::modifiedChanged);
     connect(&m_session->history, &Detail::History::message, this, &Layouts::message);
     connect(&m_session->transfer, &Detail::Transfer::message, this, &Layouts::message);
 }
@@ -145,6 +150,11 @@ void Layouts::setLocked(bool locked)
 {
     if (m_session)
         m_session->lock.setLocked(locked);
+}
+
+bool Layouts::isModified() const
+{
+    return m_session && m_session->modification.isModified();
 }
 
 QUndoStack* Layouts::history() const

@@ -13,6 +13,7 @@ Session::Session(Manager& theManager, WindowOwner& theOwner, const Actions& theA
     , windows(owner, giver)
     , keeper(manager, owner, stored, activity, windows)
     , history(manager, owner, stored, giver, activity, windows, actions)
+    , modification(owner, stored, giver, activity, windows)
     , transfer(manager)
     , layoutSlots(manager, stored, windows, keeper, actions)
     , cycle(manager, actions)

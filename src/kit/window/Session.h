@@ -8,6 +8,7 @@
 #include "Giver.h"
 #include "Keeper.h"
 #include "Lock.h"
+#include "Modification.h"
 #include "Names.h"
 #include "Slots.h"
 #include "StoredViews.h"
@@ -35,6 +36,7 @@ struct Session
     Windows windows;
     Keeper keeper;
     History history;
+    Modification modification;
     Transfer transfer;
     Slots layoutSlots;
     Cycle cycle;
