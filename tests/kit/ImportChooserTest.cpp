@@ -206,6 +206,7 @@ private Q_SLOTS:
     void chosenOnesAreAdded();
     void namesThatAreTaken_data();
     void namesThatAreTaken();
+    void activeLayoutStaysActive();
     void whatIsThereAlreadyIsNotOffered();
     void numbersAreFree();
     void severalByKeys();
@@ -318,6 +319,21 @@ void ImportChooserTest::namesThatAreTaken()
         QCOMPARE(f.stateOf("Two (2)"_s), f.window.saveState());
 }
 
+void ImportChooserTest::activeLayoutStaysActive()
+{
+    Fixture f;
+    f.addNew("Two"_s);
+    QVERIFY(f.manager->activateView("Two"_s));
+    QVERIFY(f.open());
+    f.select({0});
+    Fixture::click("Replace yours"_s, f.chooser);
+    f.importButton()->click();
+    QTRY_VERIFY(!f.chooser);
+    QCOMPARE(f.manager->activeView(), "Two"_s);
+    // The windows show what it is now.
+    QCOMPARE(f.window.dockWidgetArea(f.window.properties), Qt::LeftDockWidgetArea);
+}
+
 void ImportChooserTest::whatIsThereAlreadyIsNotOffered()
 {
     Fixture f;
@@ -355,6 +371,11 @@ void ImportChooserTest::severalByKeys()
     Fixture::click("Replace yours"_s, f.chooser);
     QCOMPARE(f.notes(), lines({"A+ Added", "One+ Replaces your layout of this name",
                                "Two+ Replaces your layout of this name"}));
+    // What is asked for taken names leaves the others alone.
+    Fixture::click("Skip"_s, f.chooser);
+    QCOMPARE(f.notes(), lines({"A+ Added", "One- Not imported, the name is taken",
+                               "Two- Not imported, the name is taken"}));
+    f.view()->setFocus();
     QTest::keyClick(f.view(), Qt::Key_Space);
     QCOMPARE(f.notes(), lines({"A- Not imported", "One- Not imported, the name is taken",
                                "Two- Not imported, the name is taken"}));

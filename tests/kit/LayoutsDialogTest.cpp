@@ -232,10 +232,12 @@ void LayoutsDialogTest::unsoundNamesAreRefused()
     QVERIFY(f.isReady);
     f.select({1});
     f.press(Qt::Key_F2);
-    f.editor()->setText(name);
+    const QPointer<QLineEdit> editor = f.editor();
+    editor->setText(name);
     f.press(Qt::Key_Return);
-    QVERIFY(f.editor());
-    QCOMPARE(f.editor()->text(), name);
+    QCoreApplication::processEvents();
+    QCOMPARE(f.editor(), editor.data());
+    QCOMPARE(editor->text(), name);
     const auto* label = f.view()->viewport()->findChild<QLabel*>("reason"_s);
     QVERIFY(label->isVisible());
     QCOMPARE(label->text(), reason);
@@ -336,6 +338,12 @@ void LayoutsDialogTest::movesByKeys()
     f.select({0, 1});
     f.action("Move Down"_s)->trigger();
     QCOMPARE(f.manager.views(), list("B C A D"));
+    // The selection stays with the layouts.
+    f.layouts->history()->undo();
+    QTRY_COMPARE(f.shown(), list("C A B D"));
+    QCOMPARE(f.view()->selectionModel()->selectedIndexes().size(), 2);
+    QVERIFY(f.view()->selectionModel()->isSelected(f.layout(0)));
+    QVERIFY(f.view()->selectionModel()->isSelected(f.layout(1)));
 }
 
 void LayoutsDialogTest::movesBetweenGroups()
