@@ -7,6 +7,7 @@
 
 QVector<Figure> codecFigures();
 QVector<Figure> managerFigures();
+QVector<Figure> dialogFigures();
 QVector<Figure> documentFigures();
 QVector<Figure> guardFigures();
 QVector<Figure> menuFigures();

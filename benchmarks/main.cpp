@@ -28,8 +28,9 @@ int main(int argc, char* argv[])
 
     QVector<Result> results;
     printHeader();
-    for (const auto& figures : {codecFigures, managerFigures, documentFigures, guardFigures,
-                                menuFigures, stateFigures, pictureFigures, layoutDocumentFigures}) {
+    for (const auto& figures :
+         {codecFigures, managerFigures, documentFigures, guardFigures, menuFigures, stateFigures,
+          pictureFigures, layoutDocumentFigures, dialogFigures}) {
         const QVector<Figure> group = figures();
         for (const Figure& figure : group) {
             if (!figure.name.contains(only))
