@@ -45,6 +45,7 @@ private Q_SLOTS:
     void aDestroyedOwnerIsNotAsked();
     void namelessPartsComeBackByMerging();
     void namesAreTheSameInEveryRun();
+    void namesComeFromTitles();
     void namesAreTakenBack();
     void aClosedWindowSavesItsOwnStateWithoutThem();
     void checkFinds();
@@ -140,6 +141,30 @@ void LayoutsWindowsTest::namesAreTheSameInEveryRun()
         return manager.toXml(/*markActive=*/false);
     };
     QCOMPARE(run(true), run(false));
+}
+
+void LayoutsWindowsTest::namesComeFromTitles()
+{
+    QByteArray document;
+    for (const QStringList& titles : {QStringList{"X"_s, "Y"_s}, QStringList{"Y"_s, "X"_s}}) {
+        Manager manager({"G"_s}, /*mergeOnApply=*/false);
+        QMainWindow window;
+        QMap<QString, QDockWidget*> docks;
+        for (const QString& title : titles) {
+            docks[title] = new QDockWidget(title, &window);
+            window.addDockWidget(Qt::LeftDockWidgetArea, docks[title]);
+        }
+        Layouts layouts(manager);
+        layouts.addWindow(window, "main"_s);
+        if (document.isEmpty()) {
+            window.addDockWidget(Qt::RightDockWidgetArea, docks["Y"_s]);
+            document = manager.toXml(/*markActive=*/true);
+            continue;
+        }
+        QVERIFY(manager.fromXml(document, /*merge=*/false));
+        QCOMPARE(window.dockWidgetArea(docks["X"_s]), Qt::LeftDockWidgetArea);
+        QCOMPARE(window.dockWidgetArea(docks["Y"_s]), Qt::RightDockWidgetArea);
+    }
 }
 
 void LayoutsWindowsTest::namesAreTakenBack()

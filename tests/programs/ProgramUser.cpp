@@ -21,12 +21,12 @@ namespace Panorel::Tests {
 
 namespace {
 
-constexpr int interval = 50;
+constexpr int interval = 20;
 // Looks without a change until a window counts as settled, at the start and later.
-constexpr int restAtStart = 40;
-constexpr int rest = 5;
-// Looks until a step is given up: a minute and a half.
-constexpr int patience = 1800;
+constexpr int restAtStart = 60;
+constexpr int rest = 7;
+// Looks until a step is given up: a minute.
+constexpr int patience = 3000;
 constexpr int switches = 20;
 
 QJsonObject readJson(const QString& fileName)

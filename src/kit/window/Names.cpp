@@ -20,19 +20,25 @@ QString nameOf(const QWidget* part)
     return chosen.isEmpty() ? part->objectName() : chosen;
 }
 
-void chooseAmong(const QList<QWidget*>& parts, const QString& pattern)
+// By class and title, and by place only among those that have both in common, because a program may
+// make its parts in another order next time.
+void chooseAmong(const QList<QWidget*>& parts)
 {
     QSet<QString> taken;
     for (const QWidget* part : parts)
         taken.insert(nameOf(part));
-    int number = 1;
     for (QWidget* part : parts) {
         if (!nameOf(part).isEmpty())
             continue;
-        while (taken.contains(pattern.arg(number)))
+        const QString start = QStringLiteral("unnamed-%1-%2-")
+                                  .arg(QLatin1String(part->metaObject()->className()),
+                                       part->windowTitle().remove(QStringLiteral("[*]")));
+        int number = 1;
+        while (taken.contains(start + QString::number(number)))
             ++number;
-        part->setProperty(chosenName, pattern.arg(number));
-        taken.insert(pattern.arg(number));
+        const QString name = start + QString::number(number);
+        part->setProperty(chosenName, name);
+        taken.insert(name);
     }
 }
 
@@ -58,8 +64,8 @@ Names::~Names()
 
 void Names::choose(QMainWindow& window)
 {
-    chooseAmong(Parts::dockWidgets(window), QStringLiteral("unnamed-dock-widget-%1"));
-    chooseAmong(Parts::toolBars(window), QStringLiteral("unnamed-tool-bar-%1"));
+    chooseAmong(Parts::dockWidgets(window));
+    chooseAmong(Parts::toolBars(window));
 }
 
 void Names::give(QMainWindow& window)

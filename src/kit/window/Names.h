@@ -12,8 +12,8 @@ namespace Panorel::Kit::Detail {
 
 /**
  * Gives dock widgets and tool bars without an object name one while a layout is taken or given,
- * because Qt stores and finds them by it. The names are the same in every run in which the parts
- * are made in the same order.
+ * because Qt stores and finds them by it. The names are made of class and title, and among those
+ * that have both in common of the order in which they are made, so they are the same in every run.
  */
 class Names : public QObject
 {
