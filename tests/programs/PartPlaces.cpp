@@ -16,6 +16,11 @@ namespace {
 
 constexpr auto keyProperty = "_try_key";
 
+QString windowKey()
+{
+    return QStringLiteral("window");
+}
+
 QJsonArray rectangle(const QRect& rect)
 {
     return {rect.x(), rect.y(), rect.width(), rect.height()};
@@ -90,7 +95,8 @@ QString PartPlaces::keyOf(QWidget& part) const
 
 QJsonObject PartPlaces::describe() const
 {
-    QJsonObject all;
+    QJsonObject all{{windowKey(), QJsonObject{{QStringLiteral("size"),
+                                               QJsonArray{m_window.width(), m_window.height()}}}}};
     const QList<QDockWidget*> docks = dockWidgets();
     for (QDockWidget* dock : docks)
         all.insert(keyOf(*dock), describe(*dock));
@@ -142,9 +148,15 @@ QJsonObject PartPlaces::describe(QToolBar& bar) const
     return place;
 }
 
+bool PartPlaces::isResized(const QJsonObject& expected, const QJsonObject& actual)
+{
+    return expected.value(windowKey()) != actual.value(windowKey());
+}
+
 QStringList PartPlaces::differences(const QJsonObject& expected, const QJsonObject& actual)
 {
     QStringList found;
+    const bool resized = isResized(expected, actual);
     const auto text = [](const QJsonValue& value) {
         return QString::fromUtf8(QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact));
     };
@@ -153,7 +165,10 @@ QStringList PartPlaces::differences(const QJsonObject& expected, const QJsonObje
         const QJsonObject after = actual.value(part.key()).toObject();
         for (auto property = before.begin(); property != before.end(); ++property) {
             const QJsonValue other = after.value(property.key());
-            if (other != property.value())
+            const bool followsWindow = property.key() == QLatin1String("size") ||
+                                       (property.key() == QLatin1String("geometry") &&
+                                        !before.value(QLatin1String("floating")).toBool());
+            if (other != property.value() && !(resized && followsWindow))
                 found.append(
                     QStringLiteral("%1: %2 %3, was %4")
                         .arg(part.key(), property.key(), text(other), text(property.value())));

@@ -24,7 +24,10 @@ public:
     /** Each part by a name that it keeps, with all that is to be compared. */
     QJsonObject describe() const;
 
-    /** What differs, one line for each part and property. */
+    /** Whether the window has another size. The program gives it that, and what is docked follows.
+     */
+    static bool isResized(const QJsonObject& expected, const QJsonObject& actual);
+    /** What differs, one line for each part and property; not sizes of what follows the window. */
     static QStringList differences(const QJsonObject& expected, const QJsonObject& actual);
 
 private:

@@ -59,6 +59,7 @@ private:
     void rearrange(int step);
     void transferFile(const QString& entry);
     void undo();
+    QStringList differences(const QString& expected) const;
     void compare(const QString& expected, const QString& what);
     bool close();
     void report();
@@ -74,6 +75,7 @@ private:
     bool m_isInStep = false;
     int m_looks = 0;
     int m_looksAtStep = 0;
+    int m_comparisons = 0;
 
     QPointer<QMainWindow> m_window;
     QString m_fileToChoose;
