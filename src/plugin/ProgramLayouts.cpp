@@ -3,6 +3,7 @@
 
 #include "ProgramFiles.h"
 
+#include <QLoggingCategory>
 #include <QStatusBar>
 
 #include <algorithm>
@@ -13,15 +14,29 @@ namespace {
 
 constexpr int messageTime = 5000;
 
+QLoggingCategory::CategoryFilter otherFilter = nullptr;
+
+// In a debug build the kit tells developers what is wrong with their windows. Here there are none.
+void silenceKit(QLoggingCategory* category)
+{
+    // Qt calls this for the categories that there are before it says which filter was there.
+    if (otherFilter)
+        otherFilter(category);
+    if (qstrcmp(category->categoryName(), "panorel.kit") == 0)
+        category->setEnabled(QtWarningMsg, false);
+}
+
 } // namespace
 
 ProgramLayouts::ProgramLayouts(bool merges)
     : m_manager({ProgramFiles::programName()}, merges)
     , m_layouts(m_manager)
 {
+    if (!otherFilter)
+        otherFilter = QLoggingCategory::installFilter(silenceKit);
     QObject::connect(&m_layouts, &Kit::Layouts::message, &m_layouts,
                      [this](const QString& text) { showMessage(text); });
-    // Before there are windows: what a developer would be told about them is not for the user.
+    m_layouts.setKeepsGeometry(false); // Programs do that themselves.
     m_layouts.start(ProgramFiles::layouts());
 }
 
@@ -39,11 +54,7 @@ void ProgramLayouts::add(QMainWindow& window)
                                   [](const auto& place) { return !place->window(); }),
                    m_places.end());
     m_places.push_back(std::make_unique<MenuPlace>(window, m_layouts));
-    // Size and place are the program's own business, so they stay what they are.
-    const QByteArray geometry = window.saveGeometry();
     m_layouts.addWindow(window);
-    if (window.saveGeometry() != geometry)
-        (void)window.restoreGeometry(geometry);
 }
 
 // Where the program shows its own. A status bar that it has hidden, or does not have, stays so.

@@ -75,6 +75,7 @@ private Q_SLOTS:
     void theFirstPictureIsTheLayout();
     void whatIsRearrangedAtOnceStays();
     void aPlaceOffTheScreens();
+    void sizeOfTheApplicationsOwn();
 
 private:
     QString file() const { return m_folder->filePath("f.views"_s); }
@@ -289,6 +290,26 @@ void LayoutsStartTest::aPlaceOffTheScreens()
     run.window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&run.window));
     QVERIFY(QGuiApplication::primaryScreen()->geometry().intersects(run.window.geometry()));
+}
+
+void LayoutsStartTest::sizeOfTheApplicationsOwn()
+{
+    for (const int width : {700, 600}) {
+        Run run;
+        run.layouts.setKeepsGeometry(false);
+        run.layouts.start(file());
+        run.window.resize(width, 500);
+        run.window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&run.window));
+        run.window.addDockWidget(Qt::BottomDockWidgetArea, run.window.left);
+        QVERIFY(run.layouts.save());
+        QCOMPARE(run.window.width(), width);
+    }
+    // The layout came back without it.
+    Run run;
+    run.layouts.setKeepsGeometry(false);
+    run.layouts.start(file());
+    QCOMPARE(run.window.dockWidgetArea(run.window.left), Qt::BottomDockWidgetArea);
 }
 
 QTEST_MAIN(LayoutsStartTest)

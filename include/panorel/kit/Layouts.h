@@ -102,6 +102,9 @@ public:
      * QStandardPaths::AppDataLocation.
      */
     void start(const QString& fileName = QString());
+    /** Whether size and place of the windows are kept and given as well. They are at first; an
+        application that does so itself turns it off before start() and addWindow(). */
+    void setKeepsGeometry(bool keeps);
 
     /**
      * Makes a menu: a Panorel::Menu with all entries, with a field for new names that is ready for

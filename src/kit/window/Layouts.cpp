@@ -146,6 +146,12 @@ bool Layouts::isLocked() const
     return m_session && m_session->lock.isLocked();
 }
 
+void Layouts::setKeepsGeometry(bool keeps)
+{
+    if (m_session)
+        m_session->windows.setKeepsGeometry(keeps);
+}
+
 void Layouts::setLocked(bool locked)
 {
     if (m_session)

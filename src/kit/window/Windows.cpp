@@ -32,7 +32,7 @@ void Windows::begin(const StateMap& states, const QMap<QString, QByteArray>& geo
     m_states = states;
     m_geometries = geometries;
     for (const auto& watch : m_watches) {
-        watch->setGeometry(m_geometries.value(watch->id()));
+        giveGeometry(*watch);
         watch->setState(m_states.value(watch->id()));
     }
 }
@@ -42,6 +42,12 @@ StateMap Windows::states()
     update();
     collect();
     return m_states;
+}
+
+void Windows::giveGeometry(WindowWatch& watch)
+{
+    if (m_keepsGeometry)
+        watch.setGeometry(m_geometries.value(watch.id()));
 }
 
 QMap<QString, QByteArray> Windows::geometries()
@@ -57,7 +63,7 @@ void Windows::collect()
         const QByteArray state = watch->state();
         if (!state.isEmpty())
             m_states.insert(watch->id(), state);
-        const QByteArray geometry = watch->geometry();
+        const QByteArray geometry = m_keepsGeometry ? watch->geometry() : QByteArray();
         if (!geometry.isEmpty())
             m_geometries.insert(watch->id(), geometry);
     }
@@ -73,7 +79,7 @@ void Windows::add(const QString& id, QMainWindow& window)
     WindowWatch* const watch = m_watches.back().get();
     connect(watch, &WindowWatch::touched, this, &Windows::touched);
     connect(watch, &WindowWatch::closing, this, &Windows::closing);
-    watch->setGeometry(m_geometries.value(id));
+    giveGeometry(*watch);
     watch->setState(m_states.value(id));
     Q_EMIT added(&window);
 }

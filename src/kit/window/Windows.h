@@ -36,6 +36,9 @@ public:
 
     /** What each window shows, or showed when it was closed, or is to show. */
     StateMap states();
+    /** Whether windows get their size and place, and it is asked what they are; at first they do.
+        What is known of them stays. */
+    void setKeepsGeometry(bool keeps) { m_keepsGeometry = keeps; }
     /** Size and place of each window, as of QMainWindow::saveGeometry(). */
     QMap<QString, QByteArray> geometries();
 
@@ -49,6 +52,7 @@ Q_SIGNALS:
 
 private:
     void collect();
+    void giveGeometry(WindowWatch& watch);
     void add(const QString& id, QMainWindow& window);
     void onGiven(QMainWindow* window, const QByteArray& state);
     WindowWatch* watchOf(const QMainWindow* window) const;
@@ -58,6 +62,7 @@ private:
     std::vector<std::unique_ptr<WindowWatch>> m_watches;
     StateMap m_states;
     QMap<QString, QByteArray> m_geometries;
+    bool m_keepsGeometry = true;
 };
 
 } // namespace Panorel::Kit::Detail
