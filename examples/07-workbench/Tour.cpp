@@ -95,8 +95,9 @@ bool Tour::switchByMouse()
 {
     const Shown wide = shown();
     disturb();
-    picture(QStringLiteral("disturbed"));
-    if (!openMenu())
+    if (!step(QStringLiteral("disturbed"), QStringLiteral("A star says that it was rearranged."),
+              QTest::qWaitFor([this] { return isMarked(); }, patience)) ||
+        !openMenu())
         return false;
     QMenu& menu = m_workbench.menu();
     if (QAction* action = entry(menu, QStringLiteral("Wide"))) {
@@ -160,7 +161,7 @@ bool Tour::undoSwitch()
     return step(QStringLiteral("switch-undone"),
                 QStringLiteral("A switch is undone, with what was not saved."), disturbed) &&
            step(QStringLiteral("switch-undone-name"), QStringLiteral("The name is right as well."),
-                activeLabel() == QLatin1String("Wide"));
+                QTest::qWaitFor([this] { return isMarked(); }, patience));
 }
 
 bool Tour::nextByKeys()
@@ -452,9 +453,10 @@ bool Tour::step(const QString& name, const QString& text, const Shown& expected)
     return step(name, text, wrong.isEmpty());
 }
 
-QString Tour::activeLabel() const
+bool Tour::isMarked() const
 {
-    return m_workbench.editor().statusBar()->findChild<QLabel*>()->text();
+    const auto* label = m_workbench.editor().statusBar()->findChild<QLabel*>();
+    return label->text() == QLatin1String("Wide*");
 }
 
 bool Tour::hasMessage() const

@@ -58,7 +58,7 @@ private:
     void picture(const QString& name);
     bool step(const QString& name, const QString& text, bool holds);
     bool step(const QString& name, const QString& text, const Shown& expected);
-    QString activeLabel() const;
+    bool isMarked() const;
     bool hasMessage() const;
 
     Workbench& m_workbench;

@@ -80,6 +80,7 @@ void Workbench::addStatus()
             [bar](const QString& message) { bar->showMessage(message); });
     connect(&m_manager, &Manager::viewActivated, this, &Workbench::showActive);
     connect(&m_manager, &Manager::groupActivated, this, &Workbench::showActive);
+    connect(&m_layouts, &Layouts::modifiedChanged, this, &Workbench::showActive);
     showActive();
 }
 
@@ -89,7 +90,8 @@ void Workbench::showActive()
     const QString view = m_manager.activeView();
     const QString text = view.isEmpty() ? m_manager.activeGroup() : view;
     const int width = 24 * m_active->fontMetrics().averageCharWidth();
-    m_active->setText(m_active->fontMetrics().elidedText(text, Qt::ElideRight, width));
+    const QString name = m_active->fontMetrics().elidedText(text, Qt::ElideRight, width);
+    m_active->setText(m_layouts.isModified() ? name + QLatin1Char('*') : name);
 }
 
 // As far as the screen is wide enough.
