@@ -336,6 +336,29 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::ModifiedEntries</name>
+    <message>
+        <source>Save Layout</source>
+        <translation>حفظ التخطيط</translation>
+    </message>
+    <message>
+        <source>Save &quot;%1&quot;</source>
+        <translation>حفظ &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Back to Layout</source>
+        <translation>الرجوع إلى التخطيط</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>الرجوع إلى &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>and more</source>
+        <translation>والمزيد</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameEdit</name>
     <message>
         <source>Name of the layout</source>

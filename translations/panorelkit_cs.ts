@@ -336,6 +336,29 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::ModifiedEntries</name>
+    <message>
+        <source>Save Layout</source>
+        <translation>Uložit rozložení</translation>
+    </message>
+    <message>
+        <source>Save &quot;%1&quot;</source>
+        <translation>Uložit &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Back to Layout</source>
+        <translation>Vrátit se k rozložení</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>Vrátit se k &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>and more</source>
+        <translation>a další</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameEdit</name>
     <message>
         <source>Name of the layout</source>

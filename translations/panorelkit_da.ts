@@ -336,6 +336,29 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::ModifiedEntries</name>
+    <message>
+        <source>Save Layout</source>
+        <translation>Gem layout</translation>
+    </message>
+    <message>
+        <source>Save &quot;%1&quot;</source>
+        <translation>Gem &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Back to Layout</source>
+        <translation>Tilbage til layout</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>Tilbage til &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>and more</source>
+        <translation>og mere</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameEdit</name>
     <message>
         <source>Name of the layout</source>

@@ -336,6 +336,29 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::ModifiedEntries</name>
+    <message>
+        <source>Save Layout</source>
+        <translation>Fensterlayout speichern</translation>
+    </message>
+    <message>
+        <source>Save &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; speichern</translation>
+    </message>
+    <message>
+        <source>Back to Layout</source>
+        <translation>Zurück zum Fensterlayout</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>Zurück zu &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>and more</source>
+        <translation>und mehr</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameEdit</name>
     <message>
         <source>Name of the layout</source>

@@ -336,6 +336,29 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::ModifiedEntries</name>
+    <message>
+        <source>Save Layout</source>
+        <translation>Αποθήκευση διάταξης</translation>
+    </message>
+    <message>
+        <source>Save &quot;%1&quot;</source>
+        <translation>Αποθήκευση του &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Back to Layout</source>
+        <translation>Επιστροφή στη διάταξη</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>Επιστροφή στο &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>and more</source>
+        <translation>και άλλα</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameEdit</name>
     <message>
         <source>Name of the layout</source>

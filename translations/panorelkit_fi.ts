@@ -336,6 +336,29 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::ModifiedEntries</name>
+    <message>
+        <source>Save Layout</source>
+        <translation>Tallenna asettelu</translation>
+    </message>
+    <message>
+        <source>Save &quot;%1&quot;</source>
+        <translation>Tallenna &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Back to Layout</source>
+        <translation>Palaa asetteluun</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>Palaa asetteluun &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>and more</source>
+        <translation>ja muuta</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameEdit</name>
     <message>
         <source>Name of the layout</source>

@@ -336,6 +336,29 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::ModifiedEntries</name>
+    <message>
+        <source>Save Layout</source>
+        <translation>שמירת הפריסה</translation>
+    </message>
+    <message>
+        <source>Save &quot;%1&quot;</source>
+        <translation>שמירת &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Back to Layout</source>
+        <translation>חזרה לפריסה</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>חזרה אל &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>and more</source>
+        <translation>ועוד</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameEdit</name>
     <message>
         <source>Name of the layout</source>

@@ -336,6 +336,29 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::ModifiedEntries</name>
+    <message>
+        <source>Save Layout</source>
+        <translation>Elrendezés mentése</translation>
+    </message>
+    <message>
+        <source>Save &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; mentése</translation>
+    </message>
+    <message>
+        <source>Back to Layout</source>
+        <translation>Vissza az elrendezéshez</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>Vissza ehhez: &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>and more</source>
+        <translation>és egyebek</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameEdit</name>
     <message>
         <source>Name of the layout</source>

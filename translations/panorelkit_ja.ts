@@ -336,6 +336,29 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::ModifiedEntries</name>
+    <message>
+        <source>Save Layout</source>
+        <translation>レイアウトを保存</translation>
+    </message>
+    <message>
+        <source>Save &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; を保存</translation>
+    </message>
+    <message>
+        <source>Back to Layout</source>
+        <translation>レイアウトに戻す</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; に戻す</translation>
+    </message>
+    <message>
+        <source>and more</source>
+        <translation>ほか</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameEdit</name>
     <message>
         <source>Name of the layout</source>

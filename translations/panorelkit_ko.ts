@@ -336,6 +336,29 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::ModifiedEntries</name>
+    <message>
+        <source>Save Layout</source>
+        <translation>레이아웃 저장</translation>
+    </message>
+    <message>
+        <source>Save &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; 저장</translation>
+    </message>
+    <message>
+        <source>Back to Layout</source>
+        <translation>레이아웃으로 되돌리기</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>&quot;%1&quot;(으)로 되돌리기</translation>
+    </message>
+    <message>
+        <source>and more</source>
+        <translation>기타</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameEdit</name>
     <message>
         <source>Name of the layout</source>

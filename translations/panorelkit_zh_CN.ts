@@ -336,6 +336,29 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::ModifiedEntries</name>
+    <message>
+        <source>Save Layout</source>
+        <translation>保存布局</translation>
+    </message>
+    <message>
+        <source>Save &quot;%1&quot;</source>
+        <translation>保存 &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Back to Layout</source>
+        <translation>恢复到布局</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>恢复到 &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>and more</source>
+        <translation>等</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameEdit</name>
     <message>
         <source>Name of the layout</source>

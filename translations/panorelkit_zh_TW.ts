@@ -336,6 +336,29 @@
     </message>
 </context>
 <context>
+    <name>Panorel::Kit::Detail::ModifiedEntries</name>
+    <message>
+        <source>Save Layout</source>
+        <translation>儲存版面配置</translation>
+    </message>
+    <message>
+        <source>Save &quot;%1&quot;</source>
+        <translation>儲存 &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Back to Layout</source>
+        <translation>回復到版面配置</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>回復到 &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>and more</source>
+        <translation>等</translation>
+    </message>
+</context>
+<context>
     <name>Panorel::Kit::Detail::NameEdit</name>
     <message>
         <source>Name of the layout</source>
