@@ -157,6 +157,7 @@ private Q_SLOTS:
     void everyEditIsUndone();
     void switches();
     void differencesAreTold();
+    void modifiedLayoutIsMarked();
     void slotsAreAssigned_data();
     void slotsAreAssigned();
     void followsChanges();
@@ -461,6 +462,22 @@ void LayoutsDialogTest::differencesAreTold()
     QTRY_COMPARE(f.differences(), "\"Messages & more\" is open"_s);
     f.window.output->show();
     QTRY_COMPARE(f.differences(), "Nothing. The windows look like this layout."_s);
+}
+
+void LayoutsDialogTest::modifiedLayoutIsMarked()
+{
+    Fixture f;
+    QVERIFY(f.manager.activateView("Two"_s));
+    const auto note = [&] { return f.layout(1).data(Qt::AccessibleDescriptionRole).toString(); };
+    QTRY_COMPARE(note(), "Active"_s);
+    f.window.output->hide();
+    QTRY_COMPARE(note(), "Active \u00b7 modified"_s);
+    QCOMPARE(f.layout(0).data(Qt::AccessibleDescriptionRole).toString(), QString());
+    f.select({1});
+    QTRY_COMPARE(f.differences(), "\"Output\" is open"_s);
+    f.button("Switch"_s)->click();
+    QTRY_COMPARE(note(), "Active"_s);
+    QVERIFY(f.window.output->isVisible());
 }
 
 void LayoutsDialogTest::slotsAreAssigned_data()

@@ -57,7 +57,7 @@ LayoutsDialog::LayoutsDialog(Session& session, QWidget* parent)
     m_view->delegate().setRefusal([this](const QModelIndex& index, const QString& name) {
         return LayoutEdits::refusal(m_model->snapshot(), m_model->idOf(index), name);
     });
-    m_model->setReminder([this](const LayoutId& layout) { return reminderOf(layout); });
+    m_model->setReminder([this](const LayoutId& layout) { return remindersOf(layout); });
     createActions();
     arrange();
     follow();
@@ -203,6 +203,8 @@ void LayoutsDialog::follow()
         m_model->updateReminders();
         updateDetails();
     });
+    connect(&m_session->modification, &Modification::modifiedChanged, m_model,
+            &LayoutsModel::updateReminders);
     connect(m_details, &DetailsPane::slotChosen, this, &LayoutsDialog::assignSlot);
     connect(&m_session->history, &QObject::destroyed, this, &LayoutsDialog::retire);
     connect(m_model, &LayoutsModel::renamed, m_commands, &LayoutCommands::rename);
@@ -301,13 +303,26 @@ QStringList LayoutsDialog::slotNames() const
     return names.toList();
 }
 
-QString LayoutsDialog::reminderOf(const LayoutId& layout) const
+QStringList LayoutsDialog::remindersOf(const LayoutId& layout) const
 {
-    const int slot = m_session ? m_session->layoutSlots.slotOf(layout.group, layout.name) : 0;
-    if (slot == 0)
-        return QString();
-    const QString shortcut = m_session->layoutSlots.shortcutText(layout.group, layout.name);
-    return shortcut.isEmpty() ? tr("Slot %1").arg(slot) : shortcut;
+    QStringList reminders;
+    if (!m_session)
+        return reminders;
+    if (isShown(layout) && m_session->modification.wasModified())
+        reminders.append(tr("modified"));
+    const Slots& slotsOfLayouts = m_session->layoutSlots;
+    const int slot = slotsOfLayouts.slotOf(layout.group, layout.name);
+    const QString shortcut = slotsOfLayouts.shortcutText(layout.group, layout.name);
+    if (slot > 0)
+        reminders.append(shortcut.isEmpty() ? tr("Slot %1").arg(slot) : shortcut);
+    return reminders;
+}
+
+// Whether the windows have got this layout last.
+bool LayoutsDialog::isShown(const LayoutId& layout) const
+{
+    const Manager& manager = m_session->manager;
+    return layout == LayoutId{manager.activeGroup(), manager.activeView()};
 }
 
 void LayoutsDialog::assignSlot(int slot)
@@ -322,8 +337,10 @@ void LayoutsDialog::updateDifferences()
     const QModelIndex current = m_view->currentIndex();
     if (!m_session || !LayoutsModel::isLayout(current))
         return;
+    // What windows cannot show exactly is no difference.
+    const bool isSame = isShown(m_model->idOf(current)) && !m_session->modification.isModified();
     const auto states = current.data(LayoutsModel::StatesRole).value<StateMap>();
-    m_details->setDifferences(DifferencesNow::texts(*m_session, states));
+    m_details->setDifferences(isSame ? QStringList() : DifferencesNow::texts(*m_session, states));
 }
 
 void LayoutsDialog::tell(const QString& text)

@@ -57,7 +57,8 @@ private:
     void updateDetails();
     void updateDifferences();
     QStringList slotNames() const;
-    QString reminderOf(const LayoutId& layout) const;
+    QStringList remindersOf(const LayoutId& layout) const;
+    bool isShown(const LayoutId& layout) const;
     void assignSlot(int slot);
     void tell(const QString& text);
 

@@ -112,9 +112,8 @@ QString LayoutsModel::noteOf(const QModelIndex& index) const
     QStringList notes;
     if (viewAt(index).isActive)
         notes.append(tr("Active"));
-    const QString reminder = m_reminder ? m_reminder(idOf(index)) : QString();
-    if (!reminder.isEmpty())
-        notes.append(reminder);
+    if (m_reminder)
+        notes += m_reminder(idOf(index));
     return notes.join(QStringLiteral(" \u00b7 "));
 }
 

@@ -19,10 +19,10 @@ public:
     explicit LayoutsModel(QObject* parent);
     ~LayoutsModel() override;
 
-    /** Gives what reminds of a layout's slot or shortcut; empty if it has none. */
-    using Reminder = std::function<QString(const LayoutId&)>;
+    /** Gives what else is said of a layout, such as its shortcut. */
+    using Reminder = std::function<QStringList(const LayoutId&)>;
     void setReminder(const Reminder& reminder) { m_reminder = reminder; }
-    /** Another layout has another reminder. */
+    /** Something else is said of some layouts. */
     void updateReminders();
 
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
