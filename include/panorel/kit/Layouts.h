@@ -212,7 +212,7 @@ public:
 Q_SIGNALS:
     /** Emitted after the windows were locked or unlocked. */
     void lockedChanged(bool locked);
-    /** isModified() is another now; by then a change is a moment old. */
+    /** Emitted when isModified() returns another value than before, a moment after the change. */
     void modifiedChanged(bool modified);
     /** One sentence for the user, such as for a status bar. A problem() is reported once. */
     void message(const QString& text);
