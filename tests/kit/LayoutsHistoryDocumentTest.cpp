@@ -2,9 +2,13 @@
 #include "FourSidesWindow.h"
 #include "HistoryProgram.h"
 
+#include <QAction>
+#include <QFile>
+#include <QMenu>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <memory>
 #include <utility>
 
 using namespace Panorel;
@@ -19,6 +23,9 @@ class LayoutsHistoryDocumentTest : public QObject
 private Q_SLOTS:
     void aDocumentIsOneStep_data();
     void aDocumentIsOneStep();
+    void aViewThatIsAddedByADocumentIsOneStep_data();
+    void aViewThatIsAddedByADocumentIsOneStep();
+    void theMenusResetIsOneStep();
     void aResetKeepsAFloatingTabGroup_data();
     void aResetKeepsAFloatingTabGroup();
     void removingAllViewsIsUndone();
@@ -87,6 +94,78 @@ void LayoutsHistoryDocumentTest::aDocumentIsOneStep()
     p.stack.redo();
     QCOMPARE(p.window.dockArea(), bottom);
     QCOMPARE(p.views().at(0), how == 0 ? "a< *b>"_s : "*b>"_s);
+}
+
+void LayoutsHistoryDocumentTest::aViewThatIsAddedByADocumentIsOneStep_data()
+{
+    QTest::addColumn<bool>("merges");
+    QTest::addColumn<bool>("isFile");
+    QTest::newRow("a file") << false << true;
+    QTest::newRow("a file, with merging") << true << true;
+    QTest::newRow("by the application") << false << false;
+    QTest::newRow("by the application, with merging") << true << false;
+}
+
+// To the Manager's owners this looks like a view that the user creates.
+void LayoutsHistoryDocumentTest::aViewThatIsAddedByADocumentIsOneStep()
+{
+    QFETCH(bool, merges);
+    QFETCH(bool, isFile);
+    HistoryProgram other(merges);
+    other.save("x"_s, right);
+    other.window.moveDock(bottom);
+    const QTemporaryDir folder;
+    const QString name = folder.filePath("x.views"_s);
+    QFile file(name);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    const QByteArray document = other.manager.toXml(/*markActive=*/false);
+    QCOMPARE(file.write(document), document.size());
+    file.close();
+    HistoryProgram p(merges);
+    p.save("a"_s, left);
+    p.window.moveDock(top);
+    QVERIFY(isFile ? p.layouts.importFile(name) : p.manager.fromXml(document, /*merge=*/true));
+    QCOMPARE(p.window.dockArea(), bottom);
+    QCOMPARE(p.views().at(0), "*a< x>"_s);
+    QCOMPARE(p.stack.count(), 2);
+    if (isFile)
+        QCOMPARE(p.stack.text(1), "Import \"x.views\""_s);
+    p.stack.undo();
+    QCOMPARE(p.views().at(0), "*a<"_s);
+    QCOMPARE(p.window.dockArea(), top);
+    p.stack.redo();
+    QCOMPARE(p.views().at(0), "*a< x>"_s);
+    QCOMPARE(p.window.dockArea(), bottom);
+    p.manager.activateView("x"_s);
+    QCOMPARE(p.window.dockArea(), right);
+}
+
+void LayoutsHistoryDocumentTest::theMenusResetIsOneStep()
+{
+    HistoryProgram p;
+    const std::unique_ptr<QMenu> menu(p.layouts.createMenu(nullptr));
+    QAction* reset = nullptr;
+    const QList<QAction*> actions = menu->actions();
+    for (QAction* action : actions) {
+        if (action->text() == "Reset Layout to Factory Default"_s)
+            reset = action;
+    }
+    QVERIFY(reset);
+    QVERIFY(!reset->isEnabled());
+    p.save("default"_s, right);
+    p.manager.setFactoryDefaultView(p.manager.toXml(/*markActive=*/false));
+    QVERIFY(reset->isEnabled());
+    p.save("a"_s, left);
+    p.window.moveDock(top);
+    const int before = p.stack.count();
+    reset->trigger();
+    QCOMPARE(p.window.dockArea(), right);
+    QCOMPARE(p.views().at(0), "default>"_s);
+    QCOMPARE(p.stack.count(), before + 1);
+    QCOMPARE(p.stack.undoText(), reset->text());
+    p.stack.undo();
+    QCOMPARE(p.window.dockArea(), top);
+    QCOMPARE(p.views().at(0), "default> *a<"_s);
 }
 
 void LayoutsHistoryDocumentTest::aResetKeepsAFloatingTabGroup_data()

@@ -81,6 +81,11 @@ void History::change(const Snapshot& to, const QString& text)
         (void)run(delta, shown);
 }
 
+void History::nameImport(const QString& file)
+{
+    m_documentName = StepText::ofImport(file);
+}
+
 std::optional<StateMap> History::run(const Delta& delta, const std::optional<Step::Shown>& shown)
 {
     // A receiver of the signals may undo more.

@@ -60,6 +60,8 @@ public:
      */
     void change(const Snapshot& to, const QString& text);
 
+    /** The next document that the Manager reads is that of a file. */
+    void nameImport(const QString& file);
     /** What the next document that the Manager reads is called in its step. */
     void nameDocument(const QString& text) { m_documentName = text; }
 

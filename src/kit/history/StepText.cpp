@@ -61,4 +61,9 @@ QString StepText::of(const Delta& delta, const Contents& after)
     return text.isEmpty() ? Text::tr("Change Layouts") : text;
 }
 
+QString StepText::ofImport(const QString& file)
+{
+    return Text::tr("Import \"%1\"").arg(file);
+}
+
 } // namespace Panorel::Kit::Detail

@@ -15,6 +15,9 @@ namespace StepText {
     are as the active layout has them again. */
 QString of(const Delta& delta, const Contents& after);
 
+/** Reading the file of this name. */
+QString ofImport(const QString& file);
+
 } // namespace StepText
 
 } // namespace Panorel::Kit::Detail

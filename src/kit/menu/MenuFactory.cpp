@@ -7,6 +7,7 @@
 #include "FileEntries.h"
 #include "KitEntries.h"
 #include "NameField.h"
+#include "ResetEntries.h"
 #include "SlotTexts.h"
 
 #include "../window/Session.h"
@@ -58,6 +59,7 @@ Menu* MenuFactory::createMenu(Layouts& layouts, Session& session, QWidget* paren
     cure(*menu, layouts, session);
     auto* files = new FileEntries(*menu, session.transfer);
     QObject::connect(files, &FileEntries::message, &layouts, &Layouts::message);
+    new ResetEntries(*menu, session);
     new KitEntries(*menu, layouts, session);
     return menu;
 }

@@ -14,10 +14,12 @@ Session::Session(Manager& theManager, WindowOwner& theOwner, const Actions& theA
     , keeper(manager, owner, stored, activity, windows)
     , history(manager, owner, stored, giver, activity, windows, actions)
     , modification(owner, stored, giver, activity, windows)
-    , transfer(manager)
+    , transfer(manager, activity)
     , layoutSlots(manager, stored, windows, keeper, actions)
     , cycle(manager, actions)
     , lock(owner, windows, keeper, actions)
-{}
+{
+    QObject::connect(&transfer, &Transfer::importing, &history, &History::nameImport);
+}
 
 } // namespace Panorel::Kit::Detail

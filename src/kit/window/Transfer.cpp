@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Transfer.h"
 
+#include "Activity.h"
+
 #include "../value/WholeFile.h"
 
 #include <panorel/Manager.h>
@@ -13,8 +15,9 @@
 
 namespace Panorel::Kit::Detail {
 
-Transfer::Transfer(Manager& manager)
+Transfer::Transfer(Manager& manager, Activity& activity)
     : m_manager(manager)
+    , m_activity(activity)
 {}
 
 Transfer::~Transfer() = default;
@@ -84,6 +87,7 @@ QString Transfer::take(const Content& content, Mode mode)
     if (!content.problem.isNull())
         return content.problem;
     Q_EMIT importing(content.name);
+    const Activity::Reading reading(m_activity);
     if (!m_manager.fromXml(content.document.bytes(), mode == Mode::Add))
         return tr("\"%1\" cannot be read.").arg(content.name);
     const QString text = content.dropped.isEmpty()

@@ -13,14 +13,16 @@ class Manager;
 
 namespace Panorel::Kit::Detail {
 
+class Activity;
+
 /** Brings layouts into files and out of files that may hold anything. */
 class Transfer : public QObject
 {
     Q_OBJECT
 
 public:
-    /** @param manager must outlive this object. */
-    explicit Transfer(Manager& manager);
+    /** Both must outlive this object. */
+    Transfer(Manager& manager, Activity& activity);
     ~Transfer() override;
 
     /** What becomes of the layouts that are there. */
@@ -71,6 +73,7 @@ private:
     bool hasViews(const LayoutDocument& document) const;
 
     Manager& m_manager;
+    Activity& m_activity;
 };
 
 } // namespace Panorel::Kit::Detail
