@@ -25,6 +25,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QShowEvent>
+#include <QSignalBlocker>
 #include <QSplitter>
 #include <QToolBar>
 #include <QUndoStack>
@@ -250,7 +251,11 @@ void LayoutsDialog::refresh()
     if (!m_session)
         return;
     m_refresh.stop();
-    m_model->setSnapshot(m_session->history.snapshot());
+    {
+        // Once is enough, however many of the selected layouts go.
+        const QSignalBlocker blocker(m_view);
+        m_model->setSnapshot(m_session->history.snapshot());
+    }
     updateActions();
     updateDetails();
 }
