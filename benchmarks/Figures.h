@@ -11,6 +11,7 @@ QVector<Figure> dialogFigures();
 QVector<Figure> documentFigures();
 QVector<Figure> guardFigures();
 QVector<Figure> menuFigures();
+QVector<Figure> kitFigures();
 QVector<Figure> pictureFigures();
 QVector<Figure> stateFigures();
 QVector<Figure> layoutDocumentFigures();

@@ -30,7 +30,7 @@ int main(int argc, char* argv[])
     printHeader();
     for (const auto& figures :
          {codecFigures, managerFigures, documentFigures, guardFigures, menuFigures, stateFigures,
-          pictureFigures, layoutDocumentFigures, dialogFigures}) {
+          pictureFigures, layoutDocumentFigures, dialogFigures, kitFigures}) {
         const QVector<Figure> group = figures();
         for (const Figure& figure : group) {
             if (!figure.name.contains(only))
