@@ -48,7 +48,11 @@ ImportDialog::ImportDialog(const ImportSource& source, const Snapshot& target,
     updateButton();
 }
 
-ImportDialog::~ImportDialog() = default;
+// The list may tell of another current layout until its end.
+ImportDialog::~ImportDialog()
+{
+    delete m_view;
+}
 
 QWidget* ImportDialog::createList(const ImportSource& source)
 {

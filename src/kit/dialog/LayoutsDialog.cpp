@@ -66,7 +66,11 @@ LayoutsDialog::LayoutsDialog(Session& session, QWidget* parent)
     updateDetails();
 }
 
-LayoutsDialog::~LayoutsDialog() = default;
+// The list asks for notes and names until its end.
+LayoutsDialog::~LayoutsDialog()
+{
+    delete m_view;
+}
 
 LayoutsDialog* LayoutsDialog::find(const QWidget& window, const Session& session)
 {
