@@ -309,6 +309,10 @@
         <source>Slot %1</source>
         <translation>Pozice %1</translation>
     </message>
+    <message>
+        <source>modified</source>
+        <translation>změněno</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Kit::Detail::LayoutsModel</name>
@@ -569,6 +573,10 @@
     <message>
         <source>Change Layouts</source>
         <translation>Změnit rozložení</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>Importovat &quot;%1&quot;</translation>
     </message>
 </context>
 <context>

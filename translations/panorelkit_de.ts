@@ -309,6 +309,10 @@
         <source>Slot %1</source>
         <translation>Platz %1</translation>
     </message>
+    <message>
+        <source>modified</source>
+        <translation>geändert</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Kit::Detail::LayoutsModel</name>
@@ -569,6 +573,10 @@
     <message>
         <source>Change Layouts</source>
         <translation>Fensterlayouts ändern</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; importieren</translation>
     </message>
 </context>
 <context>

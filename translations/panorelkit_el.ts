@@ -309,6 +309,10 @@
         <source>Slot %1</source>
         <translation>Θέση %1</translation>
     </message>
+    <message>
+        <source>modified</source>
+        <translation>τροποποιημένη</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Kit::Detail::LayoutsModel</name>
@@ -569,6 +573,10 @@
     <message>
         <source>Change Layouts</source>
         <translation>Αλλαγή διατάξεων</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>Εισαγωγή του &quot;%1&quot;</translation>
     </message>
 </context>
 <context>

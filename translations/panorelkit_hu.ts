@@ -309,6 +309,10 @@
         <source>Slot %1</source>
         <translation>%1. hely</translation>
     </message>
+    <message>
+        <source>modified</source>
+        <translation>módosítva</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Kit::Detail::LayoutsModel</name>
@@ -569,6 +573,10 @@
     <message>
         <source>Change Layouts</source>
         <translation>Elrendezések módosítása</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; importálása</translation>
     </message>
 </context>
 <context>

@@ -309,6 +309,10 @@
         <source>Slot %1</source>
         <translation>Posizione %1</translation>
     </message>
+    <message>
+        <source>modified</source>
+        <translation>modificato</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Kit::Detail::LayoutsModel</name>
@@ -569,6 +573,10 @@
     <message>
         <source>Change Layouts</source>
         <translation>Modifica layout</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>Importa &quot;%1&quot;</translation>
     </message>
 </context>
 <context>

@@ -309,6 +309,10 @@
         <source>Slot %1</source>
         <translation>スロット %1</translation>
     </message>
+    <message>
+        <source>modified</source>
+        <translation>変更あり</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Kit::Detail::LayoutsModel</name>
@@ -569,6 +573,10 @@
     <message>
         <source>Change Layouts</source>
         <translation>レイアウトを変更</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; をインポート</translation>
     </message>
 </context>
 <context>

@@ -309,6 +309,10 @@
         <source>Slot %1</source>
         <translation>슬롯 %1</translation>
     </message>
+    <message>
+        <source>modified</source>
+        <translation>수정됨</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Kit::Detail::LayoutsModel</name>
@@ -569,6 +573,10 @@
     <message>
         <source>Change Layouts</source>
         <translation>레이아웃 변경</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; 가져오기</translation>
     </message>
 </context>
 <context>

@@ -309,6 +309,10 @@
         <source>Slot %1</source>
         <translation>Plaats %1</translation>
     </message>
+    <message>
+        <source>modified</source>
+        <translation>gewijzigd</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Kit::Detail::LayoutsModel</name>
@@ -569,6 +573,10 @@
     <message>
         <source>Change Layouts</source>
         <translation>Indelingen wijzigen</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; importeren</translation>
     </message>
 </context>
 <context>

@@ -309,6 +309,10 @@
         <source>Slot %1</source>
         <translation>Miejsce %1</translation>
     </message>
+    <message>
+        <source>modified</source>
+        <translation>zmieniony</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Kit::Detail::LayoutsModel</name>
@@ -569,6 +573,10 @@
     <message>
         <source>Change Layouts</source>
         <translation>Zmień układy</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>Importuj &quot;%1&quot;</translation>
     </message>
 </context>
 <context>

@@ -309,6 +309,10 @@
         <source>Slot %1</source>
         <translation>Posição %1</translation>
     </message>
+    <message>
+        <source>modified</source>
+        <translation>modificada</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Kit::Detail::LayoutsModel</name>
@@ -569,6 +573,10 @@
     <message>
         <source>Change Layouts</source>
         <translation>Alterar disposições</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>Importar &quot;%1&quot;</translation>
     </message>
 </context>
 <context>

@@ -309,6 +309,10 @@
         <source>Slot %1</source>
         <translation>Poziția %1</translation>
     </message>
+    <message>
+        <source>modified</source>
+        <translation>modificat</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Kit::Detail::LayoutsModel</name>
@@ -569,6 +573,10 @@
     <message>
         <source>Change Layouts</source>
         <translation>Modifică aranjamentele</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>Importă &quot;%1&quot;</translation>
     </message>
 </context>
 <context>

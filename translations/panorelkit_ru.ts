@@ -309,6 +309,10 @@
         <source>Slot %1</source>
         <translation>Ячейка %1</translation>
     </message>
+    <message>
+        <source>modified</source>
+        <translation>изменена</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Kit::Detail::LayoutsModel</name>
@@ -569,6 +573,10 @@
     <message>
         <source>Change Layouts</source>
         <translation>Изменить компоновки</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>Импортировать &quot;%1&quot;</translation>
     </message>
 </context>
 <context>

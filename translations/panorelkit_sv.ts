@@ -309,6 +309,10 @@
         <source>Slot %1</source>
         <translation>Plats %1</translation>
     </message>
+    <message>
+        <source>modified</source>
+        <translation>ändrad</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Kit::Detail::LayoutsModel</name>
@@ -569,6 +573,10 @@
     <message>
         <source>Change Layouts</source>
         <translation>Ändra layouter</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>Importera &quot;%1&quot;</translation>
     </message>
 </context>
 <context>

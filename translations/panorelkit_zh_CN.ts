@@ -309,6 +309,10 @@
         <source>Slot %1</source>
         <translation>槽位 %1</translation>
     </message>
+    <message>
+        <source>modified</source>
+        <translation>已修改</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Kit::Detail::LayoutsModel</name>
@@ -569,6 +573,10 @@
     <message>
         <source>Change Layouts</source>
         <translation>更改布局</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>导入 &quot;%1&quot;</translation>
     </message>
 </context>
 <context>

@@ -309,6 +309,10 @@
         <source>Slot %1</source>
         <translation>位置 %1</translation>
     </message>
+    <message>
+        <source>modified</source>
+        <translation>已修改</translation>
+    </message>
 </context>
 <context>
     <name>Panorel::Kit::Detail::LayoutsModel</name>
@@ -569,6 +573,10 @@
     <message>
         <source>Change Layouts</source>
         <translation>變更版面配置</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>匯入 &quot;%1&quot;</translation>
     </message>
 </context>
 <context>
