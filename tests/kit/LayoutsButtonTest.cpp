@@ -85,6 +85,7 @@ void LayoutsButtonTest::aSwitchKeepsItsToolBar()
     p.manager.activateView("without"_s);
     QVERIFY(p.button->isVisible());
     QVERIFY(p.other->isHidden());
+    QVERIFY(!p.layouts.isModified());
     QCOMPARE(p.shownIn("without"_s), QStringList());
     QCOMPARE(p.shownIn("with"_s), lines({"home", "other"}));
     // By itself the button goes round.

@@ -2,6 +2,7 @@
 #include "ButtonReach.h"
 
 #include "../window/Activity.h"
+#include "../window/Giver.h"
 
 #include <panorel/ViewButton.h>
 
@@ -11,7 +12,7 @@
 
 namespace Panorel::Kit::Detail {
 
-ButtonReach::ButtonReach(ViewButton& button, Activity& activity)
+ButtonReach::ButtonReach(ViewButton& button, Activity& activity, Giver& giver)
     : QObject(&button)
     , m_button(button)
 {
@@ -19,6 +20,8 @@ ButtonReach::ButtonReach(ViewButton& button, Activity& activity)
     // Before a document, too, which restores a layout without a switch.
     connect(&activity, &Activity::capturing, this, &ButtonReach::note);
     connect(&activity, &Activity::changed, this, &ButtonReach::keep);
+    // At once, so that it does not count as a change of the layout.
+    connect(&giver, &Giver::given, this, &ButtonReach::keep);
 }
 
 void ButtonReach::note()

@@ -12,6 +12,7 @@ class ViewButton;
 namespace Panorel::Kit::Detail {
 
 class Activity;
+class Giver;
 
 /**
  * Keeps a view button within reach: if another layout hides the tool bar that it is in, the tool
@@ -25,9 +26,10 @@ class ButtonReach : public QObject
 public:
     /**
      * @param button owns this object.
-     * @param activity may be destroyed first.
+     *
+     * The others may be destroyed first.
      */
-    ButtonReach(ViewButton& button, Activity& activity);
+    ButtonReach(ViewButton& button, Activity& activity, Giver& giver);
 
 private:
     void note();

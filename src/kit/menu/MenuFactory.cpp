@@ -70,7 +70,7 @@ ViewButton* MenuFactory::createButton(Layouts& layouts, Session& session, QWidge
     // The button's menu is its child.
     cure(*static_cast<Menu*>(button->menu()), layouts, session);
     new ButtonCures(*button, session.manager);
-    new ButtonReach(*button, session.activity);
+    new ButtonReach(*button, session.activity, session.giver);
     return button;
 }
 
