@@ -348,7 +348,7 @@ void Tour::disturb()
 bool Tour::openMenu()
 {
     const int keys = QKeySequence::mnemonic(m_workbench.menu().title())[0];
-    press(static_cast<Qt::Key>(keys & ~Qt::ALT), Qt::AltModifier);
+    press(static_cast<Qt::Key>(keys & ~int(Qt::ALT)), Qt::AltModifier);
     if (!m_workbench.menu().isVisible())
         print(QStringLiteral("FAILED: the menu has not opened"));
     return m_workbench.menu().isVisible();

@@ -96,10 +96,10 @@ void LayoutsDialog::createActions()
     }
     m_switch = createAction(tr("&Switch"), "", {});
     m_rename = createAction(tr("Re&name"), "edit-rename", Qt::Key_F2);
-    m_duplicate = createAction(tr("Du&plicate"), "edit-copy", Qt::CTRL + Qt::Key_D);
+    m_duplicate = createAction(tr("Du&plicate"), "edit-copy", int(Qt::CTRL) + int(Qt::Key_D));
     m_delete = createAction(tr("&Delete"), "edit-delete", QKeySequence::Delete);
-    m_up = createAction(tr("Move &Up"), "go-up", Qt::ALT + Qt::Key_Up);
-    m_down = createAction(tr("Move D&own"), "go-down", Qt::ALT + Qt::Key_Down);
+    m_up = createAction(tr("Move &Up"), "go-up", int(Qt::ALT) + int(Qt::Key_Up));
+    m_down = createAction(tr("Move D&own"), "go-down", int(Qt::ALT) + int(Qt::Key_Down));
     createGroupMenu();
     m_export = createAction(tr("&Export..."), "document-export", {});
     connect(m_switch, &QAction::triggered, this,

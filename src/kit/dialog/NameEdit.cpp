@@ -18,7 +18,7 @@ NameEdit::NameEdit(const Refusal& refusal, QWidget* parent)
     m_reason->setAutoFillBackground(true);
     m_reason->setBackgroundRole(QPalette::ToolTipBase);
     m_reason->setForegroundRole(QPalette::ToolTipText);
-    m_reason->setFrameStyle(QFrame::Box | QFrame::Plain);
+    m_reason->setFrameStyle(int(QFrame::Box) | QFrame::Plain);
     m_reason->setMargin(3);
     m_reason->setTextFormat(Qt::PlainText);
     m_reason->hide();

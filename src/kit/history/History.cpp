@@ -23,7 +23,7 @@ namespace Panorel::Kit::Detail {
 namespace {
 
 // In bytes of the states, which is nearly all that steps consist of.
-constexpr qint64 limit = 32 * 1024 * 1024;
+constexpr qint64 limit = qint64{32} * 1024 * 1024;
 
 // Null for a command of the application.
 Step* stepAt(const QUndoStack& stack, int index)

@@ -37,8 +37,7 @@ QString ofGroup(const Delta::Group& group)
 {
     if (group.views.size() == 1)
         return ofView(group.views.constFirst());
-    const QString rename =
-        group.views.size() == 2 ? ofRename(group.views[0], group.views[1]) : QString();
+    QString rename = group.views.size() == 2 ? ofRename(group.views[0], group.views[1]) : QString();
     if (!rename.isEmpty())
         return rename;
     if (group.views.isEmpty() && group.order.before != group.order.after)

@@ -25,7 +25,7 @@ const QLatin1String shortcutsKey("slotShortcuts");
 
 QKeySequence shortcutOf(int index)
 {
-    return QKeySequence(Qt::CTRL + Qt::ALT + Qt::Key_1 + index);
+    return QKeySequence(int(Qt::CTRL) + int(Qt::ALT) + int(Qt::Key_1) + index);
 }
 
 } // namespace
@@ -218,7 +218,7 @@ QString Slots::textOf(const Slot& slot) const
 {
     const Layout& layout = slot.layout;
     if (layout.view.isEmpty()) {
-        const auto number = std::distance(&m_slots.front(), &slot) + 1;
+        const auto number = std::distance(&m_slots[0], &slot) + 1;
         return tr("Empty Slot %1").arg(number);
     }
     return actionText(m_manager.groups().size() > 1

@@ -5,8 +5,6 @@
 #include <QObject>
 #include <QString>
 
-#include <array>
-
 class QAction;
 class QJsonObject;
 
@@ -95,7 +93,7 @@ private:
     StoredViews& m_stored;
     Keeper& m_keeper;
     QAction& m_shortcuts;
-    std::array<Slot, count> m_slots;
+    Slot m_slots[count];
     bool m_hasShortcuts = false;
     bool m_updatesSoon = false;
 };
