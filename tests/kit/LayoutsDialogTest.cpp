@@ -26,6 +26,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTranslator>
 #include <QTreeView>
 #include <QUndoStack>
 
@@ -155,6 +156,7 @@ private Q_SLOTS:
     void drags_data();
     void drags();
     void everyEditIsUndone();
+    void toolBarHasNoLettersInBrackets();
     void switches();
     void differencesAreTold();
     void modifiedLayoutIsMarked();
@@ -395,6 +397,24 @@ void LayoutsDialogTest::drags()
     QVERIFY(f.model()->dropMimeData(data.get(), Qt::MoveAction, row, 0, f.group(0)));
     QCOMPARE(f.manager.views(), after.split(QLatin1Char(' ')));
     QCOMPARE(f.shown(), after.split(QLatin1Char(' ')));
+}
+
+void LayoutsDialogTest::toolBarHasNoLettersInBrackets()
+{
+    /** Puts the letter for Alt after the text, as in Japanese. */
+    class Brackets : public QTranslator
+    {
+    public:
+        QString translate(const char*, const char* source, const char*, int) const override
+        {
+            return qstrcmp(source, "Re&name") == 0 ? "Namae(&N)"_s : QString();
+        }
+        bool isEmpty() const override { return false; }
+    };
+    Brackets translator;
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    Fixture f;
+    QCOMPARE(f.action("Namae"_s)->iconText(), "Namae"_s);
 }
 
 void LayoutsDialogTest::everyEditIsUndone()

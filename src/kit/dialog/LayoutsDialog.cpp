@@ -24,6 +24,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QShowEvent>
 #include <QSignalBlocker>
 #include <QSplitter>
@@ -118,6 +119,10 @@ QAction* LayoutsDialog::createAction(const QString& text, const char* icon,
                                      const QKeySequence& shortcut)
 {
     auto* action = new QAction(QIcon::fromTheme(QLatin1String(icon)), text, this);
+    // A tool bar shows no letters for Alt, but Qt leaves those in brackets after the text.
+    static const QRegularExpression brackets(QStringLiteral("\\(&.\\)"));
+    if (text.contains(brackets))
+        action->setIconText(QString(text).remove(brackets));
     action->setShortcut(shortcut);
     action->setShortcutContext(Qt::WidgetShortcut);
     m_view->addAction(action);
