@@ -84,6 +84,8 @@ bool ButtonBar::eventFilter(QObject* watched, QEvent* event)
 
 void ButtonBar::leave()
 {
+    if (m_isAway)
+        return; // Closed again while the program still asks.
     m_area = window()->toolBarArea(m_bar);
     window()->removeToolBar(m_bar);
     (void)window()->layout()->activate(); // The sizes without it are to be saved as well.

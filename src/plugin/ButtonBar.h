@@ -23,7 +23,8 @@ class ButtonBar : public QObject
     Q_OBJECT
 
 public:
-    /** @param layouts must outlive this object, the window need not. */
+    /** @param layouts is used until the last event that this object gets; the window may end first.
+     */
     ButtonBar(QMainWindow& window, Kit::Layouts& layouts);
     ~ButtonBar() override;
 

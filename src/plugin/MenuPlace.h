@@ -25,7 +25,8 @@ class MenuPlace : public QObject
     Q_OBJECT
 
 public:
-    /** @param layouts must outlive this object, the window need not. */
+    /** @param layouts is used until the last event that this object gets; the window may end first.
+     */
     MenuPlace(QMainWindow& window, Kit::Layouts& layouts);
     ~MenuPlace() override;
 

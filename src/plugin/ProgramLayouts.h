@@ -28,8 +28,10 @@ private:
     void showMessage(const QString& text) const;
 
     Manager m_manager;
-    Kit::Layouts m_layouts;
+    // Before the layouts, which at their end save the windows as they are, tool bars of the places
+    // included, and may tell that they could not.
     std::vector<std::unique_ptr<MenuPlace>> m_places;
+    Kit::Layouts m_layouts;
 };
 
 } // namespace Panorel::Plugin

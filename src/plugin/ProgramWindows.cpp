@@ -85,7 +85,10 @@ void ProgramWindows::note(QMainWindow* window)
         return;
     if (!m_noted.contains(window))
         m_noted.append(window);
-    m_timer.start(patience);
+    // Not again for each part that comes meanwhile, or a window that changes all the time never
+    // gets its menu.
+    if (!m_timer.isActive())
+        m_timer.start(patience);
 }
 
 void ProgramWindows::takeNoted()

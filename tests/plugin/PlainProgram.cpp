@@ -50,11 +50,23 @@ private:
     QSettings m_settings;
 };
 
+Window* lateWindow = nullptr;
+
+// After Qt has unloaded its plugins.
+void useLateWindow()
+{
+    QEvent event(QEvent::User);
+    if (lateWindow)
+        QCoreApplication::sendEvent(lateWindow, &event);
+}
+
 void end(Window& window, const QString& way)
 {
     std::printf("%d\n", window.dockArea());
     (void)std::fflush(stdout);
-    if (way == "exit"_s)
+    if (way == "exitLate"_s)
+        lateWindow = &window;
+    if (way == "exit"_s || way == "exitLate"_s)
         std::exit(3);
     if (way == "abort"_s)
         std::abort();
@@ -79,6 +91,7 @@ void use(Window& window, const QString& way)
 
 int main(int argc, char** argv)
 {
+    (void)std::atexit(useLateWindow);
     QApplication application(argc, argv);
     const QStringList arguments = application.arguments();
     const QString way = arguments.at(2);

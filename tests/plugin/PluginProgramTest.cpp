@@ -84,7 +84,7 @@ private Q_SLOTS:
 void PluginProgramTest::sameAsWithout_data()
 {
     QTest::addColumn<QString>("way");
-    for (const char* way : {"close", "quit", "exit", "abort", "terminate"})
+    for (const char* way : {"close", "quit", "exit", "exitLate", "abort", "terminate"})
         QTest::newRow(way) << QString::fromLatin1(way);
 }
 
