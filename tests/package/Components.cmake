@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Installs each component of the build BUILD_DIR into a folder of its own below WORK. A program runs
-# with "runtime" alone, or with that and "kit"; these and "development" are, without overlap, what is
-# installed in PREFIX.
+# with "runtime" alone, or with that and "kit"; these, "tools", "plugin" and "development" are,
+# without overlap, what is installed in PREFIX.
 cmake_minimum_required(VERSION 3.22)
 
 foreach(variable BUILD_DIR PREFIX LIBDIR VERSION WORK)
@@ -28,6 +28,7 @@ file(REMOVE_RECURSE "${WORK}")
 install_component(runtime runtime)
 install_component(kit kit)
 install_component(tools tools)
+install_component(plugin plugin)
 install_component(development development)
 install_component(examples examples)
 
@@ -44,6 +45,9 @@ list(FILTER kit EXCLUDE REGEX "^share/panorelkit/translations/panorelkit_[a-zA-Z
 expect_equal("Kit without translations" "${kit}" "${kit_libraries}")
 expect_equal("Tools" "${tools}"
     "bin/panorel;share/bash-completion/completions/panorel;share/man/man1/panorel.1")
+if(NOT plugin MATCHES "^[^;]*/generic/libpanorel-plugin\\.so$")
+    message(FATAL_ERROR "Plugin: ${plugin}")
+endif()
 file(GLOB_RECURSE runtime RELATIVE "${WORK}/runtime" "${WORK}/runtime/*")
 file(GLOB_RECURSE kit RELATIVE "${WORK}/kit" "${WORK}/kit/*")
 foreach(file IN ITEMS ${LIBDIR}/libpanorel.so ${LIBDIR}/libpanorelkit.so
@@ -54,11 +58,11 @@ foreach(file IN ITEMS ${LIBDIR}/libpanorel.so ${LIBDIR}/libpanorelkit.so
     endif()
 endforeach()
 
-set(together ${runtime} ${kit} ${tools} ${development})
+set(together ${runtime} ${kit} ${tools} ${plugin} ${development})
 list(SORT together)
 file(GLOB_RECURSE all RELATIVE "${PREFIX}" "${PREFIX}/*")
 list(SORT all)
-expect_equal("Runtime, kit, tools and development" "${together}" "${all}")
+expect_equal("Runtime, kit, tools, plugin and development" "${together}" "${all}")
 
 # Those of the library's own build, which the tests were configured with.
 if(EXAMPLES)
