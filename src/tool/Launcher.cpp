@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "Launcher.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QList>
+#include <QStringList>
 
 namespace Panorel::Tool {
 
@@ -54,6 +57,18 @@ QByteArray Launcher::starting(const QByteArray& starter) const
             line += QByteArray("\n") + mark;
     }
     return lines.join('\n');
+}
+
+// Folders that a user adds to the PATH of a shell are often not in that of the session.
+QByteArray Launcher::command(const QString& program, const QString& found)
+{
+    const QStringList folders{QStringLiteral("/usr/local/bin"), QStringLiteral("/usr/bin"),
+                              QStringLiteral("/bin")};
+    const QFileInfo file(found);
+    const bool isSame = file.canonicalFilePath() == QFileInfo(program).canonicalFilePath();
+    if (isSame && folders.contains(file.absolutePath()))
+        return QFile::encodeName(file.fileName());
+    return quoted(QFile::encodeName(program));
 }
 
 QByteArray Launcher::quoted(const QByteArray& path)

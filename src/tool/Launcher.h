@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QString>
 
 namespace Panorel::Tool {
 
@@ -22,6 +23,9 @@ public:
         command as desktop entries have them. */
     QByteArray starting(const QByteArray& starter) const;
 
+    /** How a command starts @p program, if the user's PATH has @p found, which may be empty: by its
+        name if the PATH of each desktop session has it as well, else by its path. */
+    static QByteArray command(const QString& program, const QString& found);
     /** A path as it is written in a command. */
     static QByteArray quoted(const QByteArray& path);
 

@@ -31,19 +31,34 @@ QString withSuffix(const QString& name)
     return name.endsWith(suffix) ? name : name + suffix;
 }
 
-// The user's own launcher of a name. A desktop takes it before one of the system.
-QString ownFileName(const QString& name)
+QString ownFolder()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::ApplicationsLocation) +
-           QLatin1Char('/') + QFileInfo(name).fileName();
+    return QStandardPaths::writableLocation(QStandardPaths::ApplicationsLocation);
+}
+
+// The user's own launcher of an id. A desktop takes it before one of the system.
+QString ownFileName(const QString& id)
+{
+    return ownFolder() + QLatin1Char('/') + id;
+}
+
+// By this a desktop finds a launcher. A path is one of a file.
+QString idOf(const QString& name)
+{
+    return QFileInfo(name).fileName();
 }
 
 // Null if there is none. What we have written is not what we read.
 QString findLauncher(const QString& name)
 {
-    if (name.contains(QLatin1Char('/')))
-        return QFileInfo(name).isFile() ? name : QString();
-    const QStringList files = QStandardPaths::locateAll(QStandardPaths::ApplicationsLocation, name);
+    if (name.contains(QLatin1Char('/'))) {
+        if (!QFileInfo(name).isFile())
+            return QString();
+        if (!Launcher(contentOf(name)).isOurs())
+            return name;
+    }
+    const QStringList files =
+        QStandardPaths::locateAll(QStandardPaths::ApplicationsLocation, idOf(name));
     for (const QString& file : files) {
         if (!Launcher(contentOf(file)).isOurs())
             return file;
@@ -53,13 +68,9 @@ QString findLauncher(const QString& name)
 
 QByteArray starter(bool merges)
 {
-    const QString name = QStringLiteral("panorel");
-    const QString self = QCoreApplication::applicationFilePath();
-    const QString found = QStandardPaths::findExecutable(name);
-    const bool isInPath =
-        QFileInfo(found).canonicalFilePath() == QFileInfo(self).canonicalFilePath();
     const QByteArray command =
-        isInPath ? name.toLatin1() : Launcher::quoted(QFile::encodeName(self));
+        Launcher::command(QCoreApplication::applicationFilePath(),
+                          QStandardPaths::findExecutable(QStringLiteral("panorel")));
     return command + (merges ? " run --merge" : " run");
 }
 
@@ -67,14 +78,15 @@ int install(const QString& name, bool merges)
 {
     const QString source = findLauncher(name);
     if (source.isNull())
-        return reportFailure(name, Text::tr("there is no such launcher"));
+        return reportFailure(QFileInfo(name).isFile() ? idOf(name) : name,
+                             Text::tr("there is no such launcher"));
     const Launcher launcher(contentOf(source));
     if (!launcher.isUsable())
         return reportFailure(source, Text::tr("starts no program"));
     if (launcher.isContainer())
         return reportFailure(
             source, Text::tr("starts a program that has its own Qt, which does not load plugins"));
-    const QString target = ownFileName(name);
+    const QString target = ownFileName(idOf(name));
     if (QFileInfo::exists(target) && !Launcher(contentOf(target)).isOurs())
         return reportFailure(target, Text::tr("is a launcher of your own and stays as it is"));
     (void)QDir().mkpath(QFileInfo(target).path()); // If it fails, so does writing.
@@ -86,7 +98,7 @@ int install(const QString& name, bool merges)
 
 int remove(const QString& name)
 {
-    const QString target = ownFileName(name);
+    const QString target = ownFileName(idOf(name));
     if (!QFileInfo::exists(target))
         return reportFailure(target, Text::tr("there is no such launcher"));
     if (!Launcher(contentOf(target)).isOurs())

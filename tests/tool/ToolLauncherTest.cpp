@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ToolTest.h"
 
+#include "tool/Launcher.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -13,10 +15,15 @@ class ToolLauncherTest : public ToolTest
 
 private Q_SLOTS:
     void eachCommandIsStarted();
+    void commandByItsPath_data();
     void commandByItsPath();
+    void commandByItsName_data();
+    void commandByItsName();
     void mergingLauncher();
     void fileByItsPath();
+    void installingAgain_data();
     void installingAgain();
+    void ourLauncherWithoutTheSystems();
     void removing();
     void ownLauncherStays();
     void unusableLaunchers_data();
@@ -54,18 +61,27 @@ static const QByteArray editor = "[Desktop Entry]\n"
                                  "Name=New\n"
                                  "Exec = editor --new \"a b\"\n";
 
+// The command as this test has it: in no folder that is in the PATH of each session.
+static QByteArray command()
+{
+    return '"' + QFileInfo(QStringLiteral(PANOREL_COMMAND)).canonicalFilePath().toUtf8() + '"';
+}
+
 static const QByteArray editorWithLayouts = "[Desktop Entry]\n"
                                             "X-Panorel-Launcher=true\n"
                                             "Type=Application\n"
                                             "Name=Editor\n"
-                                            "Exec=panorel run editor %F\n"
+                                            "Exec=" +
+                                            command() +
+                                            " run editor %F\n"
                                             "TryExec=editor\n"
                                             "DBusActivatable=false\n"
                                             "Actions=New;\n"
                                             "\n"
                                             "[Desktop Action New]\n"
                                             "Name=New\n"
-                                            "Exec=panorel run editor --new \"a b\"\n";
+                                            "Exec=" +
+                                            command() + " run editor --new \"a b\"\n";
 
 void ToolLauncherTest::eachCommandIsStarted()
 {
@@ -79,17 +95,39 @@ void ToolLauncherTest::eachCommandIsStarted()
     QCOMPARE(read("system/applications/editor.desktop"), editor);
 }
 
-// A desktop would not find it in the user's PATH.
+void ToolLauncherTest::commandByItsPath_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("not in the PATH") << QStringLiteral("PATH=/usr/bin:/bin");
+    QTest::newRow("in that of the shell") << QStringLiteral("PATH=/usr/bin:/bin:") + programs();
+}
+
+// The desktop's session may not have the PATH of the shell.
 void ToolLauncherTest::commandByItsPath()
 {
+    QFETCH(QString, path);
     prepare();
     write("system/applications/editor.desktop", editor);
-    QCOMPARE(launcher({QStringLiteral("editor")}, {QStringLiteral("PATH=/usr/bin:/bin")}).status,
-             0);
-    const QByteArray command =
-        "Exec=\"" + QFileInfo(QStringLiteral(PANOREL_COMMAND)).canonicalFilePath().toUtf8() +
-        "\" run editor %F\n";
-    QVERIFY2(read("user/applications/editor.desktop").contains(command), command.constData());
+    QCOMPARE(launcher({QStringLiteral("editor")}, {path}).status, 0);
+    const QByteArray line = "Exec=" + command() + " run editor %F\n";
+    QVERIFY2(read("user/applications/editor.desktop").contains(line), line.constData());
+}
+
+void ToolLauncherTest::commandByItsName_data()
+{
+    QTest::addColumn<QString>("found");
+    QTest::addColumn<QByteArray>("command");
+    QTest::newRow("in a folder of each session")
+        << QStringLiteral("/usr/bin/env") << QByteArray("env");
+    QTest::newRow("another program")
+        << QStringLiteral("/usr/bin/printf") << QByteArray("\"/usr/bin/env\"");
+    QTest::newRow("not found") << QString() << QByteArray("\"/usr/bin/env\"");
+}
+
+void ToolLauncherTest::commandByItsName()
+{
+    QFETCH(QString, found);
+    QTEST(Panorel::Tool::Launcher::command(QStringLiteral("/usr/bin/env"), found), "command");
 }
 
 void ToolLauncherTest::mergingLauncher()
@@ -97,8 +135,8 @@ void ToolLauncherTest::mergingLauncher()
     prepare();
     write("system/applications/editor.desktop", editor);
     QCOMPARE(launcher({QStringLiteral("--merge"), QStringLiteral("editor.desktop")}).status, 0);
-    QVERIFY(
-        read("user/applications/editor.desktop").contains("Exec=panorel run --merge editor %F"));
+    QVERIFY(read("user/applications/editor.desktop")
+                .contains("Exec=" + command() + " run --merge editor %F"));
 }
 
 void ToolLauncherTest::fileByItsPath()
@@ -109,12 +147,30 @@ void ToolLauncherTest::fileByItsPath()
     QCOMPARE(read("user/applications/other.desktop"), editorWithLayouts);
 }
 
+void ToolLauncherTest::installingAgain_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("by its name") << QStringLiteral("editor.desktop");
+    QTest::newRow("by the path of ours") << QStringLiteral("user/applications/editor.desktop");
+}
+
 void ToolLauncherTest::installingAgain()
 {
+    QFETCH(QString, name);
     prepare();
     write("system/applications/editor.desktop", editor);
-    QCOMPARE(launcher({QStringLiteral("editor.desktop")}).status, 0);
-    QCOMPARE(launcher({QStringLiteral("editor.desktop")}).status, 0);
+    QCOMPARE(launcher({QStringLiteral("--merge"), QStringLiteral("editor.desktop")}).status, 0);
+    QCOMPARE(launcher({name}).status, 0);
+    QCOMPARE(read("user/applications/editor.desktop"), editorWithLayouts);
+}
+
+void ToolLauncherTest::ourLauncherWithoutTheSystems()
+{
+    prepare();
+    write("user/applications/editor.desktop", editorWithLayouts);
+    const CommandResult result = launcher({QStringLiteral("user/applications/editor.desktop")});
+    QCOMPARE(result.status, 2);
+    QCOMPARE(result.messages, QByteArray("panorel: editor.desktop: there is no such launcher\n"));
     QCOMPARE(read("user/applications/editor.desktop"), editorWithLayouts);
 }
 
