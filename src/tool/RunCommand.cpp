@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Arguments.h"
 #include "CommandLine.h"
 #include "Commands.h"
 #include "Console.h"
@@ -14,7 +15,6 @@
 #ifdef Q_OS_UNIX
 #include <cerrno>
 #include <cstring>
-#include <vector>
 
 #include <unistd.h>
 #else
@@ -68,17 +68,12 @@ void setEnvironment(const PluginFolder& plugins, bool merges)
 
 #ifdef Q_OS_UNIX
 
-// Becomes the program, so that signals, exit status and terminal are its own.
+// Becomes the program, so that signals, exit status and terminal are its own. Its command is all
+// that follows our options.
 QString start(const QStringList& command)
 {
-    std::vector<QByteArray> arguments;
-    for (const QString& argument : command)
-        arguments.push_back(argument.toLocal8Bit());
-    std::vector<char*> pointers;
-    for (QByteArray& argument : arguments)
-        pointers.push_back(argument.data());
-    pointers.push_back(nullptr);
-    (void)execvp(pointers.front(), pointers.data());
+    const std::vector<char*> arguments = Arguments::last(command.size());
+    (void)execvp(arguments.front(), arguments.data());
     return QString::fromLocal8Bit(std::strerror(errno));
 }
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Arguments.h"
 #include "Commands.h"
 #include "Console.h"
 
@@ -77,8 +78,9 @@ int main(int argc, char* argv[])
 {
     readArgumentsAsUtf8InPlainLocale();
     qInstallMessageHandler(dropMessageOfQt);
+    Arguments::keep(argc, argv);
     const auto application = createApplication(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("panorel"));
     QCoreApplication::setApplicationVersion(QStringLiteral(PANOREL_VERSION));
-    return outcome(run(QCoreApplication::arguments().mid(1)));
+    return outcome(run(Arguments::all()));
 }

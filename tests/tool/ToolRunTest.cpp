@@ -15,6 +15,7 @@ private Q_SLOTS:
     void pluginIsLoaded_data();
     void pluginIsLoaded();
     void programGetsItsArguments();
+    void argumentsAreNotChanged();
     void statusIsThePrograms();
     void inputIsThePrograms();
     void programThatIsMissing();
@@ -68,6 +69,17 @@ void ToolRunTest::programGetsItsArguments()
              QStringLiteral("-"), QStringLiteral("-"), QStringLiteral("--"), QStringLiteral("a b"),
              QString()});
     QCOMPARE(result.output, QByteArray("<--help><-><-><--><a b><>"));
+}
+
+// A byte that is not valid in UTF-8, and an option that Qt would keep for itself.
+void ToolRunTest::argumentsAreNotChanged()
+{
+    const CommandResult result = run(
+        {QStringLiteral("sh"), QStringLiteral("-c"),
+         QStringLiteral("\"$0\" run printf '<%s>' \"$(printf 'a\\377b')\" -qmljsdebugger=port:1"),
+         QStringLiteral(PANOREL_COMMAND)});
+    QCOMPARE(result.messages, QByteArray());
+    QCOMPARE(result.output, QByteArray("<a\377b><-qmljsdebugger=port:1>"));
 }
 
 void ToolRunTest::statusIsThePrograms()
