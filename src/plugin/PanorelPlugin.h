@@ -6,7 +6,7 @@
 /**
  * Gives the program that loads it named layouts. Qt loads it with QT_QPA_GENERIC_PLUGINS=panorel,
  * or with the program's own option "-plugin panorel". With "panorel:merge" a switch leaves the tool
- * bars as they are.
+ * bars as they are. A program with another version of Qt than the plugin's stays as it is.
  */
 class PanorelPlugin : public QGenericPlugin
 {
