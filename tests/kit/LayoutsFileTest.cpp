@@ -59,6 +59,8 @@ private Q_SLOTS:
     void lastStartsAreKept();
     void anUnreadableFileIsMovedAway_data();
     void anUnreadableFileIsMovedAway();
+    void theNewestGoodCopyIsUsed();
+    void namesWithPercentSignsStay();
     void anotherVersionChangesNothing();
     void harmfulStatesAreLeftOut();
     void twoProgramsKeepBothLayouts();
@@ -209,6 +211,40 @@ void LayoutsFileTest::anUnreadableFileIsMovedAway()
     }
     QCOMPARE(contentOf("f.views.unreadable-1"), content);
     QVERIFY(contentOf("f.views").contains("Name=\"day 1\""));
+}
+
+void LayoutsFileTest::theNewestGoodCopyIsUsed()
+{
+    for (int day = 1; day <= 4; ++day) {
+        Program program(path("f.views"));
+        program.manager.createView("day %1"_s.arg(day));
+    }
+    write("f.views", "garbage");
+    write("f.views.1", "garbage");
+    write("f.views.2", contentOf("f.views.2").replace("\"1.1.0\"", "\"2.0.0\""));
+    Program program(path("f.views"));
+    QCOMPARE(program.messages.size(), 1);
+    // What was good at the start of day 2.
+    QCOMPARE(program.manager.views(), QStringList("day 1"_s));
+}
+
+void LayoutsFileTest::namesWithPercentSignsStay()
+{
+    Program one(path("f %1.views"));
+    one.manager.createView("Zoom %1"_s);
+    QVERIFY(one.layouts.save());
+    Program two(path("f %1.views"));
+    QVERIFY(QFile::exists(path("f %1.views.1")));
+    one.window.moveDock(Qt::RightDockWidgetArea);
+    one.manager.saveCurrentViewAs("Zoom %1"_s);
+    QVERIFY(one.layouts.save());
+    two.window.moveDock(Qt::TopDockWidgetArea);
+    two.manager.saveCurrentViewAs("Zoom %1"_s);
+    QVERIFY(two.layouts.save());
+    QCOMPARE(two.manager.views(), QStringList({"Zoom %1"_s, "Zoom %1 (2)"_s}));
+    write("f %1.views", "garbage");
+    Program three(path("f %1.views"));
+    QVERIFY(QFile::exists(path("f %1.views.unreadable-1")));
 }
 
 void LayoutsFileTest::anotherVersionChangesNothing()

@@ -5,6 +5,7 @@
 #include <QDockWidget>
 #include <QMenu>
 #include <QRandomGenerator>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QUndoGroup>
 
@@ -23,6 +24,10 @@ class LayoutsHistoryStackTest : public QObject
 private Q_SLOTS:
     void memoryIsBounded();
     void theApplicationsCommandsStay();
+    void commandsOfTheApplicationAreNotMerged();
+    void whatTheFileReplacesIsNotUndone_data();
+    void whatTheFileReplacesIsNotUndone();
+    void withoutAFileStepsStay();
     void theStackMayJoinAGroup();
     void anyOrderOfEnds_data();
     void anyOrderOfEnds();
@@ -87,6 +92,77 @@ void LayoutsHistoryStackTest::theApplicationsCommandsStay()
         stack.undo();
     QVERIFY(!stack.canUndo());
     QVERIFY(stack.count() < 20);
+}
+
+void LayoutsHistoryStackTest::commandsOfTheApplicationAreNotMerged()
+{
+    // What an application is likely to write: whatever has its number is one of its own.
+    struct Command : QUndoCommand
+    {
+        explicit Command(bool& hasMerged)
+            : merged(hasMerged)
+        {}
+        int id() const override { return 1; }
+        bool mergeWith(const QUndoCommand* /*other*/) override { return merged = true; }
+        bool& merged;
+    };
+    HistoryProgram p;
+    bool merged = false;
+    p.stack.push(new Command(merged));
+    p.save("a"_s, left);
+    QVERIFY(!merged);
+    QCOMPARE(p.stack.count(), 2);
+}
+
+void LayoutsHistoryStackTest::whatTheFileReplacesIsNotUndone_data()
+{
+    QTest::addColumn<bool>("hasOwn");
+    QTest::newRow("steps only") << false;
+    QTest::newRow("with a command of the application") << true;
+}
+
+void LayoutsHistoryStackTest::whatTheFileReplacesIsNotUndone()
+{
+    QFETCH(bool, hasOwn);
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("f.views"_s);
+    {
+        HistoryProgram p;
+        p.layouts.start(file);
+        p.save("Default"_s, right);
+        p.save("mine"_s, top);
+    }
+    HistoryProgram p;
+    if (hasOwn)
+        p.stack.push(new QUndoCommand("own"_s));
+    p.save("Default"_s, left);
+    p.save("Other"_s, left);
+    p.stack.undo();
+    p.layouts.start(file);
+    const QStringList loaded{"Default> *mine^"_s, QString()};
+    QCOMPARE(p.views(), loaded);
+    QCOMPARE(p.stack.text(0), hasOwn ? "own"_s : QString());
+    QCOMPARE(p.stack.count() > 0, hasOwn);
+    for (int i = 0; i < 3; ++i)
+        p.stack.undo();
+    QCOMPARE(p.views(), loaded);
+    for (int i = 0; i < 3; ++i)
+        p.stack.redo();
+    QCOMPARE(p.views(), loaded);
+    // What is done afterwards is undone as usual.
+    p.save("Default"_s, bottom);
+    p.stack.undo();
+    QCOMPARE(p.views(), loaded);
+}
+
+void LayoutsHistoryStackTest::withoutAFileStepsStay()
+{
+    const QTemporaryDir folder;
+    HistoryProgram p;
+    p.save("a"_s, left);
+    p.layouts.start(folder.filePath("f.views"_s));
+    p.stack.undo();
+    QCOMPARE(p.manager.views(), QStringList());
 }
 
 void LayoutsHistoryStackTest::theStackMayJoinAGroup()

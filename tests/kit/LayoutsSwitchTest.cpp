@@ -38,6 +38,8 @@ private Q_SLOTS:
     void unsoundStatesAreNotGiven();
     void missingDockWidgetsAreCreated_data();
     void missingDockWidgetsAreCreated();
+    void oneThatIsNotCreatedStopsNoOther_data();
+    void oneThatIsNotCreatedStopsNoOther();
     void unknownDockWidgetsKeepTheirPlace_data();
     void unknownDockWidgetsKeepTheirPlace();
 };
@@ -364,6 +366,41 @@ void LayoutsSwitchTest::missingDockWidgetsAreCreated()
     second.activateView("b"_s);
     second.activateView("a"_s);
     QCOMPARE(created, 1);
+}
+
+void LayoutsSwitchTest::oneThatIsNotCreatedStopsNoOther_data()
+{
+    QTest::addColumn<QString>("missing");
+    QTest::addColumn<QString>("created");
+    QTest::newRow("the first") << "late"_s
+                               << "later"_s;
+    QTest::newRow("the second") << "later"_s
+                                << "late"_s;
+}
+
+void LayoutsSwitchTest::oneThatIsNotCreatedStopsNoOther()
+{
+    QFETCH(QString, missing);
+    QFETCH(QString, created);
+    Manager manager({"G"_s}, /*mergeOnApply=*/false);
+    FourSidesWindow window;
+    Layouts layouts(manager);
+    layouts.addWindow(window, "w"_s);
+    manager.saveCurrentViewAs("b"_s);
+    for (const QString& name : {"late"_s, "later"_s}) {
+        auto* dock = new QDockWidget(&window);
+        dock->setObjectName(name);
+        window.addDockWidget(Qt::LeftDockWidgetArea, dock);
+    }
+    manager.saveCurrentViewAs("a"_s);
+    manager.activateView("b"_s);
+    for (const QString& name : {"late"_s, "later"_s})
+        delete window.findChild<QDockWidget*>(name);
+    layouts.addDock(missing, [] { return nullptr; });
+    layouts.addDock(created, [] { return new QDockWidget; });
+    manager.activateView("a"_s);
+    QVERIFY(!window.findChild<QDockWidget*>(missing));
+    QVERIFY(window.findChild<QDockWidget*>(created));
 }
 
 void LayoutsSwitchTest::unknownDockWidgetsKeepTheirPlace_data()

@@ -86,6 +86,28 @@ void History::nameImport(const QString& file)
     m_documentName = StepText::ofImport(file);
 }
 
+void History::forget()
+{
+    m_last = nullptr;
+    if (!m_stack)
+        return;
+    // A step that runs is needed until it is done.
+    if (m_isRunning) {
+        QMetaObject::invokeMethod(this, &History::forget, Qt::QueuedConnection);
+        return;
+    }
+    bool areAllSteps = true;
+    for (int i = 0; i < m_stack->count(); ++i) {
+        Step* const step = stepAt(*m_stack, i);
+        areAllSteps = areAllSteps && step;
+        if (step)
+            step->clear();
+    }
+    // What the application has put there stays; obsolete steps are removed when they are reached.
+    if (areAllSteps)
+        m_stack->clear();
+}
+
 std::optional<StateMap> History::run(const Delta& delta, const std::optional<Step::Shown>& shown)
 {
     // A receiver of the signals may undo more.

@@ -62,6 +62,8 @@ public:
 
     /** The next document that the Manager reads is that of a file. */
     void nameImport(const QString& file);
+    /** Drops all steps, because the layouts that they would change have been replaced. */
+    void forget();
     /** What the next document that the Manager reads is called in its step. */
     void nameDocument(const QString& text) { m_documentName = text; }
 

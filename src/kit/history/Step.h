@@ -32,8 +32,8 @@ public:
     void redo() override;
 
     /** All have the same, so that a document can be one step with the removal that it begins with.
-     */
-    int id() const override { return 1; }
+        Improbable in an application, whose commands on the same stack would be asked to merge. */
+    int id() const override { return 0x506b6974; }
     bool mergeWith(const QUndoCommand* other) override;
     /** Gives up what it has; it can no longer be undone. */
     void clear();

@@ -41,7 +41,7 @@ QString freeName(const QString& name, const QSet<QString>& taken)
 {
     QString result = name;
     for (int number = 2; taken.contains(result); ++number)
-        result = QStringLiteral("%1 (%2)").arg(name).arg(number);
+        result = QStringLiteral("%1 (%2)").arg(name, QString::number(number));
     return result;
 }
 

@@ -49,8 +49,10 @@ bool DockFactory::createMissing(QMainWindow& window, const WindowState& state)
         if (!create || present.contains(dock.name))
             continue;
         QDockWidget* widget = create();
-        if (!widget || !watched)
+        if (!watched)
             return created;
+        if (!widget)
+            continue;
         widget->setObjectName(dock.name);
         place(*widget, window, dock.area);
         created = true;

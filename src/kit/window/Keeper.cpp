@@ -95,7 +95,8 @@ void Keeper::start(const QString& fileName)
     m_storage = std::make_unique<Storage>(fileName);
     m_name = m_storage->readableName();
     m_windows.update();
-    load();
+    if (load())
+        Q_EMIT replaced();
     Q_EMIT loaded();
     connect(&m_activity, &Activity::changed, this, &Keeper::saveSoon, Qt::UniqueConnection);
     connect(&m_windows, &Windows::touched, this, &Keeper::saveSoon, Qt::UniqueConnection);
@@ -148,13 +149,13 @@ void Keeper::set(const QString& key, const QJsonValue& value)
     saveSoon();
 }
 
-void Keeper::load()
+bool Keeper::load()
 {
     const Storage::Lock lock(*m_storage);
     QString problem;
     QByteArray bytes = m_storage->read(&problem);
     if (bytes.isNull() && problem.isEmpty())
-        return;
+        return false;
     if (problem.isEmpty()) {
         const LayoutDocument document(bytes);
         if (document.isReadable() && document.version() != QLatin1String(version)) {
@@ -162,20 +163,22 @@ void Keeper::load()
             tell(tr("The layouts in %1 are of another version of this program. They stay as they "
                     "are.")
                      .arg(m_name));
-            return;
+            return false;
         }
         if (document.isReadable()) {
             m_known = bytes;
             m_storage->keepCopy(bytes);
             takeOver(bytes);
-            return;
+            return true;
         }
         problem = tr("It is damaged.");
     }
-    bytes = m_storage->newestCopy();
+    bytes = m_storage->newestCopy(isOurs);
     moveAway(problem);
-    if (LayoutDocument(bytes).isReadable())
-        takeOver(bytes);
+    if (bytes.isNull())
+        return false;
+    takeOver(bytes);
+    return true;
 }
 
 void Keeper::takeOver(const QByteArray& document)

@@ -52,6 +52,8 @@ public:
     void set(const QString& key, const QJsonValue& value);
 
 Q_SIGNALS:
+    /** The Manager's layouts have become those of the file. */
+    void replaced();
     /** The settings() are those of the file, if it has any. */
     void loaded();
     /** One sentence for the user. */
@@ -61,7 +63,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void load();
+    /** Whether the Manager got layouts of a file. */
+    bool load();
     void takeOver(const QByteArray& document);
     void giveToManager(const Snapshot& snapshot);
     void beginWindows(const Snapshot& snapshot);

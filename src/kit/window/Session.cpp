@@ -19,6 +19,7 @@ Session::Session(Manager& theManager, WindowOwner& theOwner, const Actions& theA
     , cycle(manager, actions)
     , lock(owner, windows, keeper, actions)
 {
+    QObject::connect(&keeper, &Keeper::replaced, &history, &History::forget);
     QObject::connect(&transfer, &Transfer::importing, &history, &History::nameImport);
 }
 

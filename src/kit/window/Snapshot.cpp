@@ -111,7 +111,7 @@ QString Snapshot::Group::freeName(const QString& wanted) const
 {
     QString result = wanted;
     for (int number = 2; find(result); ++number)
-        result = QStringLiteral("%1 (%2)").arg(wanted).arg(number);
+        result = QStringLiteral("%1 (%2)").arg(wanted, QString::number(number));
     return result;
 }
 

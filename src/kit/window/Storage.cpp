@@ -68,7 +68,8 @@ QString Storage::write(const QByteArray& content)
 
 void Storage::keepCopy(const QByteArray& content) const
 {
-    if (newestCopy() == content)
+    const auto isThere = [](const QByteArray& copy) { return !copy.isEmpty(); };
+    if (newestCopy(isThere) == content)
         return;
     const QString newest = copyName(1) + QStringLiteral(".new");
     if (!writeWholeFile(newest, content).isNull())
@@ -79,11 +80,11 @@ void Storage::keepCopy(const QByteArray& content) const
     (void)QFile::rename(newest, copyName(1));
 }
 
-QByteArray Storage::newestCopy() const
+QByteArray Storage::newestCopy(const std::function<bool(const QByteArray&)>& isGood) const
 {
     for (int number = 1; number <= copies; ++number) {
         QByteArray content = contentOf(copyName(number));
-        if (!content.isEmpty())
+        if (isGood(content))
             return content;
     }
     return QByteArray();
@@ -93,13 +94,13 @@ QString Storage::moveAway() const
 {
     QString name;
     for (int number = 1; name.isEmpty() || QFileInfo::exists(name); ++number)
-        name = QStringLiteral("%1.unreadable-%2").arg(m_fileName).arg(number);
+        name = m_fileName + QStringLiteral(".unreadable-%1").arg(number);
     return QFile::rename(m_fileName, name) ? name : QString();
 }
 
 QString Storage::copyName(int number) const
 {
-    return QStringLiteral("%1.%2").arg(m_fileName).arg(number);
+    return m_fileName + QStringLiteral(".%1").arg(number);
 }
 
 } // namespace Panorel::Kit::Detail

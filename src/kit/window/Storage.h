@@ -6,6 +6,8 @@
 #include <QLockFile>
 #include <QString>
 
+#include <functional>
+
 namespace Panorel::Kit::Detail {
 
 /**
@@ -44,8 +46,8 @@ public:
     /** Keeps @p content, which is good, as ".1" and what was there as ".2" and so on. Does nothing
         if it is there already. */
     void keepCopy(const QByteArray& content) const;
-    /** The newest copy; null if there is none. */
-    QByteArray newestCopy() const;
+    /** The newest copy that @p isGood accepts; null if there is none. */
+    QByteArray newestCopy(const std::function<bool(const QByteArray&)>& isGood) const;
     /** Renames the file, so that it is not overwritten. @return its new name; null if it stays. */
     QString moveAway() const;
 

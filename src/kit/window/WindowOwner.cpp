@@ -68,7 +68,7 @@ QString WindowOwner::freeId(const QString& wanted) const
     const QString first = wanted.isEmpty() ? QStringLiteral("window") : wanted;
     QString id = first;
     for (int number = 2; isTaken(id); ++number)
-        id = QStringLiteral("%1-%2").arg(first).arg(number);
+        id = first + QStringLiteral("-%1").arg(number);
     return id;
 }
 

@@ -28,19 +28,15 @@ QStringList arrangementOf(const QByteArray& bytes)
     QStringList arrangement;
     const auto docks = state.dockWidgets();
     for (const WindowState::DockWidget& dock : docks)
-        arrangement += QStringLiteral("%1 %2 %3 %4 %5")
-                           .arg(dock.name)
-                           .arg(dock.area)
-                           .arg(dock.isVisible)
-                           .arg(dock.isFloating)
-                           .arg(dock.tab ? dock.tab->isFront : false);
+        arrangement += dock.name + QStringLiteral(" %1 %2 %3 %4")
+                                       .arg(dock.area)
+                                       .arg(dock.isVisible)
+                                       .arg(dock.isFloating)
+                                       .arg(dock.tab ? dock.tab->isFront : false);
     const auto bars = state.toolBars();
     for (const WindowState::ToolBar& bar : bars)
-        arrangement += QStringLiteral("%1 %2 %3 %4")
-                           .arg(bar.name)
-                           .arg(bar.area)
-                           .arg(bar.line)
-                           .arg(bar.isVisible);
+        arrangement +=
+            bar.name + QStringLiteral(" %1 %2 %3").arg(bar.area).arg(bar.line).arg(bar.isVisible);
     return arrangement;
 }
 
