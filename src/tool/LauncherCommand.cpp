@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -42,10 +43,55 @@ QString ownFileName(const QString& id)
     return ownFolder() + QLatin1Char('/') + id;
 }
 
-// By this a desktop finds a launcher. A path is one of a file.
+// "kde/editor.desktop" in a folder of launchers is "kde-editor.desktop" to a desktop.
+QString idOfRelative(QString path)
+{
+    return path.replace(QLatin1Char('/'), QLatin1Char('-'));
+}
+
+// By this a desktop finds a launcher. A name with a slash is the path of a file.
 QString idOf(const QString& name)
 {
-    return QFileInfo(name).fileName();
+    const QFileInfo file(name);
+    // The file itself may be a link to another place.
+    const QString path = file.dir().canonicalPath() + QLatin1Char('/') + file.fileName();
+    const QStringList folders =
+        QStandardPaths::standardLocations(QStandardPaths::ApplicationsLocation);
+    for (const QString& folder : folders) {
+        const QString root = QDir(folder).canonicalPath() + QLatin1Char('/');
+        const bool isBelow = root.size() > 1 && path.startsWith(root);
+        if (name.contains(QLatin1Char('/')) && isBelow)
+            return idOfRelative(path.mid(root.size()));
+    }
+    return file.fileName();
+}
+
+// The first launcher of an id in a folder or below it that is not ours; null if there is none.
+QString findBelow(const QString& folder, const QString& id)
+{
+    QDirIterator files(folder, {QStringLiteral("*.desktop")}, QDir::Files,
+                       QDirIterator::Subdirectories | QDirIterator::FollowSymlinks);
+    while (files.hasNext()) {
+        const QString file = files.next();
+        const bool hasId = idOfRelative(QDir(folder).relativeFilePath(file)) == id;
+        if (hasId && !Launcher(contentOf(file)).isOurs())
+            return file;
+    }
+    return QString();
+}
+
+// Whether the user has made this file, or a link to one that may be missing at present.
+bool isOfUser(const QString& fileName)
+{
+    const QFileInfo file(fileName);
+    return (file.exists() || file.isSymLink()) && !Launcher(contentOf(fileName)).isOurs();
+}
+
+// The launcher of an id that the user has made; null if there is none.
+QString findOfUser(const QString& id)
+{
+    const QString target = ownFileName(id);
+    return isOfUser(target) ? target : findBelow(ownFolder(), id);
 }
 
 // Null if there is none. What we have written is not what we read.
@@ -57,10 +103,11 @@ QString findLauncher(const QString& name)
         if (!Launcher(contentOf(name)).isOurs())
             return name;
     }
-    const QStringList files =
-        QStandardPaths::locateAll(QStandardPaths::ApplicationsLocation, idOf(name));
-    for (const QString& file : files) {
-        if (!Launcher(contentOf(file)).isOurs())
+    const QStringList folders =
+        QStandardPaths::standardLocations(QStandardPaths::ApplicationsLocation);
+    for (const QString& folder : folders) {
+        const QString file = findBelow(folder, idOf(name));
+        if (!file.isNull())
             return file;
     }
     return QString();
@@ -86,9 +133,10 @@ int install(const QString& name, bool merges)
     if (launcher.isContainer())
         return reportFailure(
             source, Text::tr("starts a program that has its own Qt, which does not load plugins"));
+    const QString ofUser = findOfUser(idOf(name));
+    if (!ofUser.isNull())
+        return reportFailure(ofUser, Text::tr("is a launcher of your own and stays as it is"));
     const QString target = ownFileName(idOf(name));
-    if (QFileInfo::exists(target) && !Launcher(contentOf(target)).isOurs())
-        return reportFailure(target, Text::tr("is a launcher of your own and stays as it is"));
     (void)QDir().mkpath(QFileInfo(target).path()); // If it fails, so does writing.
     const int status = writeResult(target, launcher.starting(starter(merges)));
     if (status == Fine)
@@ -99,10 +147,10 @@ int install(const QString& name, bool merges)
 int remove(const QString& name)
 {
     const QString target = ownFileName(idOf(name));
+    if (isOfUser(target))
+        return reportFailure(target, Text::tr("is a launcher of your own and stays as it is"));
     if (!QFileInfo::exists(target))
         return reportFailure(target, Text::tr("there is no such launcher"));
-    if (!Launcher(contentOf(target)).isOurs())
-        return reportFailure(target, Text::tr("is a launcher of your own and stays as it is"));
     QFile file(target);
     return file.remove() ? Fine : reportFailure(target, file.errorString());
 }

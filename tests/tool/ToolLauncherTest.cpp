@@ -21,6 +21,10 @@ private Q_SLOTS:
     void commandByItsName();
     void mergingLauncher();
     void fileByItsPath();
+    void launcherInASubfolder_data();
+    void launcherInASubfolder();
+    void ownLauncherInASubfolderStays();
+    void linkToNothingStays();
     void installingAgain_data();
     void installingAgain();
     void ourLauncherWithoutTheSystems();
@@ -145,6 +149,54 @@ void ToolLauncherTest::fileByItsPath()
     write("other.desktop", editor);
     QCOMPARE(launcher({QStringLiteral("./other.desktop")}).status, 0);
     QCOMPARE(read("user/applications/other.desktop"), editorWithLayouts);
+}
+
+void ToolLauncherTest::launcherInASubfolder_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("by its id") << QStringLiteral("suite-office-editor.desktop");
+    QTest::newRow("by its path") << QStringLiteral(
+        "./system/applications/suite/office/../office/editor.desktop");
+}
+
+// Under its file's name, a desktop would show it beside that of the system.
+void ToolLauncherTest::launcherInASubfolder()
+{
+    QFETCH(QString, name);
+    prepare();
+    QVERIFY(QDir(folder()).mkpath(QStringLiteral("system/applications/suite/office")));
+    write("system/applications/suite/office/editor.desktop", editor);
+    const CommandResult result = launcher({name});
+    QCOMPARE(result.messages, QByteArray());
+    QCOMPARE(result.output, path("user/applications/suite-office-editor.desktop").toUtf8() + '\n');
+    QCOMPARE(read("user/applications/suite-office-editor.desktop"), editorWithLayouts);
+    QCOMPARE(launcher({QStringLiteral("--remove"), name}).status, 0);
+    QVERIFY(!exists("user/applications/suite-office-editor.desktop"));
+}
+
+void ToolLauncherTest::ownLauncherInASubfolderStays()
+{
+    prepare();
+    QVERIFY(QDir(folder()).mkpath(QStringLiteral("user/applications/suite")));
+    write("user/applications/suite/editor.desktop", editor);
+    write("system/applications/suite-editor.desktop", editor);
+    QCOMPARE(launcher({QStringLiteral("suite-editor.desktop")}).status, 2);
+    QVERIFY(!exists("user/applications/suite-editor.desktop"));
+}
+
+void ToolLauncherTest::linkToNothingStays()
+{
+    prepare();
+    write("system/applications/editor.desktop", editor);
+    const QString link = path("user/applications/editor.desktop");
+    QVERIFY(QFile::link(path("missing.desktop"), link));
+    const QByteArray message =
+        "panorel: " + link.toUtf8() + ": is a launcher of your own and stays as it is\n";
+    QCOMPARE(launcher({QStringLiteral("editor.desktop")}).messages, message);
+    QCOMPARE(launcher({QStringLiteral("--remove"), QStringLiteral("editor.desktop")}).messages,
+             message);
+    QCOMPARE(QFileInfo(link).symLinkTarget(), path("missing.desktop"));
+    QVERIFY(!exists("missing.desktop"));
 }
 
 void ToolLauncherTest::installingAgain_data()
