@@ -24,7 +24,7 @@ Transfer::~Transfer() = default;
 
 QString Transfer::exportTo(const QString& fileName)
 {
-    const QString problem = write(fileName, m_manager.toXml(/*markActive=*/false));
+    QString problem = write(fileName, m_manager.toXml(/*markActive=*/false));
     if (problem.isNull())
         Q_EMIT message(tr("Exported the layouts to \"%1\".").arg(QFileInfo(fileName).fileName()));
     return problem;
