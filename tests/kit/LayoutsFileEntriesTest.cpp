@@ -18,6 +18,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <memory>
+
 using namespace Panorel;
 using Tests::FileDialogUser;
 
@@ -34,6 +36,8 @@ private Q_SLOTS:
     void importAndMergeAdds();
     void importOfSomethingElseChangesNothing();
     void cancelledDialogsChangeNothing();
+    void windowMayGoFirst();
+    void windowMayGoForTheFile();
 
 private:
     /** A Manager with the layout "Mine", and the kit's menu. */
@@ -69,7 +73,13 @@ private:
                 if (action->text() == entry)
                     action->trigger();
             }
-            return user.wasUsed();
+            const auto isClosed = [&] {
+                return user.wasUsed() && !window.findChild<QFileDialog*>();
+            };
+            const bool wasClosed = QTest::qWaitFor(isClosed, 30000);
+            // What is done with the file comes after that.
+            QCoreApplication::processEvents();
+            return wasClosed;
         }
 
         QMainWindow window;
@@ -169,6 +179,49 @@ void LayoutsFileEntriesTest::cancelledDialogsChangeNothing()
         QVERIFY(f.use(QString::fromLatin1(entry), QString()));
     QCOMPARE(modified.count(), 0);
     QCOMPARE(f.messages.count(), 0);
+}
+
+void LayoutsFileEntriesTest::windowMayGoFirst()
+{
+    for (const char* entry : {"Export ...", "Import ...", "Import && Merge ..."}) {
+        Manager manager({QStringLiteral("Editing")}, /*mergeOnApply=*/false);
+        Kit::Layouts layouts(manager);
+        auto window = std::make_unique<QMainWindow>();
+        layouts.addWindow(*window, QStringLiteral("main"));
+        QMenu* const menu = layouts.createMenu(window.get());
+        bool isGone = false;
+        FileDialogUser user([&](QFileDialog&) {
+            window.reset();
+            isGone = true;
+        });
+        const QList<QAction*> actions = menu->actions();
+        for (QAction* action : actions) {
+            if (action->text() == QString::fromLatin1(entry))
+                action->trigger();
+        }
+        QTRY_VERIFY_WITH_TIMEOUT(isGone, 30000);
+        QVERIFY(user.wasUsed());
+    }
+}
+
+// Such as by a program that starts anew with other layouts.
+void LayoutsFileEntriesTest::windowMayGoForTheFile()
+{
+    Manager manager({QStringLiteral("Editing")}, /*mergeOnApply=*/false);
+    Kit::Layouts layouts(manager);
+    auto window = std::make_unique<QMainWindow>();
+    layouts.addWindow(*window, QStringLiteral("main"));
+    QMenu* const menu = layouts.createMenu(window.get());
+    connect(&layouts, &Kit::Layouts::message, this, [&] { window.reset(); });
+    FileDialogUser user(
+        [&](QFileDialog& dialog) { FileDialogUser::choose(dialog, path("gone.views")); });
+    const QList<QAction*> actions = menu->actions();
+    for (QAction* action : actions) {
+        if (action->text() == QStringLiteral("Export ..."))
+            action->trigger();
+    }
+    QTRY_VERIFY_WITH_TIMEOUT(!window, 30000);
+    QVERIFY(QFile::exists(path("gone.views")));
 }
 
 int main(int argc, char* argv[])

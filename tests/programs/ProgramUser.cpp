@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QDockWidget>
+#include <QEventLoop>
 #include <QFile>
 #include <QFileDialog>
 #include <QJsonArray>
@@ -373,7 +374,7 @@ void ProgramUser::transferFile(const QString& entry)
     if (m_isPlain)
         (void)QFileDialog::getSaveFileName(m_window);
     else if (QAction* const action = entryOf(*menu(), entry))
-        action->trigger();
+        useFileDialog(*action);
     else
         fail("no entry "_s + entry);
     m_fileToChoose.clear();
@@ -381,6 +382,19 @@ void ProgramUser::transferFile(const QString& entry)
         return;
     if (!QFile::exists(file("exported.views"_s)))
         fail("nothing was exported"_s);
+}
+
+// The file is used after the dialog.
+void ProgramUser::useFileDialog(QAction& action)
+{
+    action.trigger();
+    QEventLoop loop;
+    QWidget* const dialog = QApplication::activeModalWidget();
+    if (!dialog)
+        return fail("no file dialog"_s);
+    connect(dialog, &QObject::destroyed, &loop, &QEventLoop::quit);
+    loop.exec();
+    QCoreApplication::processEvents();
 }
 
 void ProgramUser::undo()

@@ -58,6 +58,7 @@ private:
     void switchTo(const QString& name);
     void rearrange(int step);
     void transferFile(const QString& entry);
+    void useFileDialog(QAction& action);
     void undo();
     QStringList differences(const QString& expected) const;
     void compare(const QString& expected, const QString& what);

@@ -26,7 +26,9 @@ void ask(QWidget* parent, Mode mode, const std::function<void(const QString&)>& 
     dialog->setFileMode(isOpening ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     // With it the dialog asks before it overwrites the file that it completes the name to.
     dialog->setDefaultSuffix(QStringLiteral("views"));
-    QObject::connect(dialog, &QFileDialog::fileSelected, parent, chosen);
+    // Later, because what is done with the file may destroy the dialog, which still closes then.
+    QObject* const context = parent ? static_cast<QObject*>(parent) : qApp;
+    QObject::connect(dialog, &QFileDialog::fileSelected, context, chosen, Qt::QueuedConnection);
     dialog->open();
 }
 

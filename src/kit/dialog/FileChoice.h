@@ -15,7 +15,9 @@ enum class Mode { Open, Save };
 /**
  * Opens a file dialog over @p parent and returns at once, so that anything may be destroyed while
  * it is open.
- * @param chosen called with the name; not called if the user cancels or @p parent is destroyed.
+ * @param parent may be null.
+ * @param chosen called with the name once the dialog is closed; not called if the user cancels or
+ * @p parent is destroyed.
  */
 void ask(QWidget* parent, Mode mode, const std::function<void(const QString&)>& chosen);
 

@@ -3,35 +3,13 @@
 
 #include "MenuParts.h"
 
+#include "../dialog/FileChoice.h"
+
 #include <panorel/Menu.h>
 
 #include <QAction>
-#include <QCoreApplication>
-#include <QFileDialog>
 
 namespace Panorel::Kit::Detail {
-
-namespace {
-
-// The texts of the entries that are replaced.
-QString menuText(const char* text)
-{
-    return QCoreApplication::translate("Panorel::Menu", text);
-}
-
-QString chooseFile(QWidget* parent, const char* caption, QFileDialog::AcceptMode mode)
-{
-    QFileDialog dialog(parent, menuText(caption), QString(),
-                       menuText("View File (*.views);;All Files (*.*)"));
-    dialog.setAcceptMode(mode);
-    const bool isOpening = mode == QFileDialog::AcceptOpen;
-    dialog.setFileMode(isOpening ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-    // With it the dialog asks before it overwrites the file that it completes the name to.
-    dialog.setDefaultSuffix(QStringLiteral("views"));
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
-}
-
-} // namespace
 
 FileEntries::FileEntries(Menu& menu, Transfer& transfer)
     : QObject(&menu)
@@ -65,17 +43,20 @@ QAction* FileEntries::replace(QAction* entry)
 void FileEntries::exportLayouts()
 {
     const QPointer<FileEntries> self(this);
-    const QString fileName = chooseFile(parentOfDialogs(), "Save Layouts", QFileDialog::AcceptSave);
-    if (self && m_transfer && !fileName.isEmpty())
-        report(m_transfer->exportTo(fileName));
+    FileChoice::ask(parentOfDialogs(), FileChoice::Mode::Save, [self](const QString& fileName) {
+        if (self && self->m_transfer)
+            self->report(self->m_transfer->exportTo(fileName));
+    });
 }
 
 void FileEntries::importLayouts(Transfer::Mode mode)
 {
     const QPointer<FileEntries> self(this);
-    const QString fileName = chooseFile(parentOfDialogs(), "Load Layouts", QFileDialog::AcceptOpen);
-    if (self && m_transfer && !fileName.isEmpty())
-        report(m_transfer->importFrom(fileName, mode));
+    FileChoice::ask(parentOfDialogs(), FileChoice::Mode::Open,
+                    [self, mode](const QString& fileName) {
+                        if (self && self->m_transfer)
+                            self->report(self->m_transfer->importFrom(fileName, mode));
+                    });
 }
 
 // Not the menu, which may be deleted while a dialog is open.
