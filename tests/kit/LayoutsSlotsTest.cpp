@@ -5,7 +5,9 @@
 #include <panorel/Manager.h>
 #include <panorel/kit/Layouts.h>
 
+#include <QAbstractItemModel>
 #include <QAction>
+#include <QDialog>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -14,6 +16,11 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
+#include <QTreeView>
+#include <QUndoStack>
+
+#include <algorithm>
+#include <memory>
 
 using namespace Panorel;
 using namespace Panorel::Kit;
@@ -64,6 +71,22 @@ QStringList shortcutsOf(const QList<QAction*>& actions)
     return shortcuts;
 }
 
+/** As by typing in the list. */
+void renameFirst(const QDialog& dialog, const QString& name)
+{
+    QAbstractItemModel* const model = dialog.findChild<QTreeView*>()->model();
+    QVERIFY(model->setData(model->index(0, 0, model->index(0, 0)), name));
+}
+
+void moveToGroup(const QDialog& dialog, const QString& group)
+{
+    const auto actions = dialog.findChildren<QAction*>();
+    const auto isOfGroup = [&](const QAction* action) { return action->text() == group; };
+    const auto found = std::find_if(actions.cbegin(), actions.cend(), isOfGroup);
+    QVERIFY(found != actions.cend());
+    (*found)->trigger();
+}
+
 } // namespace
 
 /** The actions that go to layouts: by slot, next and previous. */
@@ -77,7 +100,11 @@ private Q_SLOTS:
     void slotsActivateTheirLayouts();
     void slotsFollowTheLayouts();
     void slotsOfLayoutsThatAreGoneAreForgottenAtTheStart();
+    void renamesAreUndoneForTheNextStart();
+    void layoutsKeepTheirSlotsInOtherGroups();
+    void otherLayoutsOfTheNameBeforeAreNotFollowed();
     void shortcutsAreOffUntilTurnedOn();
+    void windowsHaveActionsWithShortcutsOnly();
     void shortcutsWorkInTheWindow();
     void shortcutsOfTheApplicationStay();
     void shortcutsAreKept();
@@ -187,6 +214,105 @@ void LayoutsSlotsTest::slotsOfLayoutsThatAreGoneAreForgottenAtTheStart()
     QVERIFY(program.slot(4).isEnabled());
     program.slot(1).trigger();
     QCOMPARE(program.active(), "G/"_s);
+}
+
+void LayoutsSlotsTest::renamesAreUndoneForTheNextStart()
+{
+    writeFile({{"1"_s, QJsonArray{"G"_s, "a"_s}}});
+    {
+        Program program;
+        program.layouts.start(path());
+        const std::unique_ptr<QDialog> dialog(program.layouts.createDialog(nullptr));
+        dialog->show();
+        renameFirst(*dialog, "z"_s);
+        QCOMPARE(program.slot(1).text(), "z (G)"_s);
+        program.layouts.history()->undo();
+        QTRY_COMPARE(program.slot(1).text(), "a (G)"_s);
+        // As an event loop does before anything else of the user's.
+        QCoreApplication::processEvents();
+    }
+    Program program;
+    program.layouts.start(path());
+    QCOMPARE(program.slot(1).text(), "a (G)"_s);
+}
+
+void LayoutsSlotsTest::layoutsKeepTheirSlotsInOtherGroups()
+{
+    writeFile({{"1"_s, QJsonArray{"G"_s, "a"_s}},
+               {"2"_s, QJsonArray{"G"_s, "d"_s}},
+               {"3"_s, QJsonArray{"H"_s, "a"_s}}});
+    {
+        Program program;
+        program.layouts.start(path());
+        const std::unique_ptr<QDialog> dialog(program.layouts.createDialog(nullptr));
+        dialog->show();
+        auto* view = dialog->findChild<QTreeView*>();
+        const QAbstractItemModel* model = view->model();
+        const QModelIndex group = model->index(0, 0);
+        view->setCurrentIndex(model->index(2, 0, group));
+        view->selectionModel()->select(model->index(0, 0, group), QItemSelectionModel::Select);
+        moveToGroup(*dialog, "H"_s);
+        // Its name is taken there.
+        QCOMPARE(program.slot(1).text(), "a (2) (H)"_s);
+        QCOMPARE(program.slot(2).text(), "d (H)"_s);
+        QCOMPARE(program.slot(3).text(), "a (H)"_s);
+    }
+    Program program;
+    program.layouts.start(path());
+    QCOMPARE(program.slot(1).text(), "a (2) (H)"_s);
+    QCOMPARE(program.slot(2).text(), "d (H)"_s);
+    program.slot(1).trigger();
+    QCOMPARE(program.active(), "H/a (2)"_s);
+}
+
+void LayoutsSlotsTest::otherLayoutsOfTheNameBeforeAreNotFollowed()
+{
+    writeFile({{"1"_s, QJsonArray{"G"_s, "a"_s}}});
+    Program program;
+    program.layouts.start(path());
+    const std::unique_ptr<QDialog> dialog(program.layouts.createDialog(nullptr));
+    dialog->show();
+    renameFirst(*dialog, "broad"_s);
+    QCOMPARE(program.slot(1).text(), "broad (G)"_s);
+    program.manager.createView("a"_s);
+    program.manager.deleteView("b & c"_s);
+    program.manager.deleteView("d"_s);
+    const auto* view = dialog->findChild<QTreeView*>();
+    QAbstractItemModel* model = view->model();
+    const QModelIndex group = model->index(0, 0);
+    QTRY_COMPARE(model->rowCount(group), 2);
+    QCOMPARE(model->index(1, 0, group).data().toString(), "a"_s);
+    QVERIFY(model->setData(model->index(1, 0, group), "tall"_s));
+    QCOMPARE(program.manager.views(), lines({"broad", "tall"}));
+    QCoreApplication::processEvents();
+    QCOMPARE(program.slot(1).text(), "broad (G)"_s);
+}
+
+void LayoutsSlotsTest::windowsHaveActionsWithShortcutsOnly()
+{
+    Program program;
+    const auto slotsOf = [&](const QMainWindow& window) {
+        QList<int> numbers;
+        for (int number = 1; number <= 9; ++number) {
+            if (window.actions().contains(&program.slot(number)))
+                numbers.append(number);
+        }
+        return numbers;
+    };
+    const QList<int> all{1, 2, 3, 4, 5, 6, 7, 8, 9};
+    QCOMPARE(slotsOf(program.window), QList<int>());
+    program.slot(2).setShortcut(QKeySequence("F8"_s));
+    QCOMPARE(slotsOf(program.window), QList<int>{2});
+    program.layouts.setSlotShortcutsEnabled(true);
+    QCOMPARE(slotsOf(program.window), all);
+    SmallWindow later;
+    program.layouts.addWindow(later, "later"_s);
+    QTRY_COMPARE(slotsOf(later), all);
+    program.layouts.setSlotShortcutsEnabled(false);
+    QCOMPARE(slotsOf(program.window), QList<int>{2});
+    QCOMPARE(slotsOf(later), QList<int>{2});
+    program.slot(2).setShortcut(QKeySequence());
+    QCOMPARE(slotsOf(program.window), QList<int>());
 }
 
 void LayoutsSlotsTest::shortcutsAreOffUntilTurnedOn()

@@ -134,8 +134,8 @@ public:
     /**
      * Nine actions, called slots. The user assigns a layout to a slot, also one of another group.
      * The action then has its name and activates it; an empty slot is disabled. Owned by this
-     * object, and added to each window, so that their shortcuts work there. The layouts of the
-     * slots are kept in the file.
+     * object; each window has those that have a shortcut, so that it works there. The layouts of
+     * the slots are kept in the file.
      */
     QList<QAction*> slotActions() const;
     /** Whether the actions have shortcuts. */

@@ -45,10 +45,12 @@ void LayoutCommands::rename(const LayoutId& layout, const QString& name)
 {
     if (!m_session)
         return;
+    const int slot = m_session->layoutSlots.slotOf(layout.group, layout.name);
     LayoutEdits edits(m_session->history.snapshot());
     edits.rename(layout, name);
     m_session->history.change(edits.result(), tr("Rename \"%1\" to \"%2\"").arg(layout.name, name));
-    m_session->layoutSlots.rename(layout.group, layout.name, layout.group, name);
+    if (m_session)
+        m_session->layoutSlots.follow(slot, layout.group, name);
 }
 
 void LayoutCommands::remove(const LayoutIds& layouts)
@@ -80,13 +82,22 @@ LayoutIds LayoutCommands::move(const LayoutIds& layouts, const QString& group, i
 {
     if (!m_session)
         return {};
-    LayoutEdits edits(m_session->history.snapshot());
+    const Snapshot before = m_session->history.snapshot();
+    QVector<int> slotsBefore; // Of those that are moved, which are all but those that are gone.
+    for (const LayoutId& layout : layouts) {
+        const Snapshot::Group* const source = before.find(layout.group);
+        if (source && source->find(layout.name))
+            slotsBefore.append(m_session->layoutSlots.slotOf(layout.group, layout.name));
+    }
+    LayoutEdits edits(before);
     const LayoutIds moved = edits.move(layouts, group, row);
     if (moved.isEmpty())
         return {};
     m_session->history.change(edits.result(), layouts.size() == 1
                                                   ? tr("Move \"%1\"").arg(layouts[0].name)
                                                   : tr("Move Layouts"));
+    for (int i = 0; m_session && i < moved.size(); ++i)
+        m_session->layoutSlots.follow(slotsBefore.value(i), moved[i].group, moved[i].name);
     return moved;
 }
 

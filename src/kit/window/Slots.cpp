@@ -42,6 +42,8 @@ Slots::Slots(Manager& manager, StoredViews& stored, Windows& windows, Keeper& ke
         slot.action = actions.layouts[index];
         slot.action->setText(textOf(slot));
         connect(slot.action, &QAction::triggered, this, [this, index] { activate(index); });
+        connect(slot.action, &QAction::changed, this, [this, &slot] { updateWindows(slot); });
+        updateWindows(slot);
     }
     m_shortcuts.setText(tr("Use S&hortcuts"));
     m_shortcuts.setToolTip(tr("%1 to %2 go to the layouts that were given these keys")
@@ -50,9 +52,7 @@ Slots::Slots(Manager& manager, StoredViews& stored, Windows& windows, Keeper& ke
     m_shortcuts.setCheckable(true);
     m_shortcuts.setEnabled(true);
     connect(&m_shortcuts, &QAction::toggled, this, &Slots::setShortcutsEnabled);
-    // So that their shortcuts work there.
-    connect(&windows, &Windows::added, this,
-            [actions](QMainWindow* window) { window->addActions(actions.layouts); });
+    connect(&windows, &Windows::added, this, &Slots::onWindowAdded);
     connect(&keeper, &Keeper::loaded, this, &Slots::load);
     connect(&manager, &Manager::groupModified, this, &Slots::onGroupModified);
     connect(&manager, &Manager::groupActivated, this, &Slots::onGroupModified);
@@ -81,22 +81,17 @@ void Slots::assign(int slot, const QString& group, const QString& view)
     takeAway({group, view});
     if (slot > 0)
         m_slots[slot - 1].names = {{group, view}};
-    store();
     updateAll();
 }
 
-void Slots::rename(const QString& group, const QString& view, const QString& newGroup,
-                   const QString& newView)
+void Slots::follow(int slot, const QString& group, const QString& view)
 {
-    const Layout before{group, view};
-    const Layout after{newGroup, newView};
-    for (Slot& slot : m_slots) {
-        if (!slot.names.contains(before))
-            continue;
-        slot.names.removeAll(after);
-        slot.names.prepend(after);
-    }
-    store();
+    if (slot < 1 || slot > count)
+        return;
+    QList<Layout>& names = m_slots[slot - 1].names;
+    const Layout layout{group, view};
+    names.removeAll(layout);
+    names.prepend(layout);
     updateAll();
 }
 
@@ -113,6 +108,31 @@ void Slots::setShortcutsEnabled(bool enabled)
     }
     store();
     Q_EMIT changed();
+}
+
+// A shortcut works in windows that have its action. Others do not get it, because a window may show
+// its actions to the user, such as in its context menu.
+void Slots::updateWindows(Slot& slot)
+{
+    const bool hasShortcut = !slot.action->shortcut().isEmpty();
+    if (std::exchange(slot.isInWindows, hasShortcut) == hasShortcut)
+        return;
+    for (const QPointer<QMainWindow>& window : qAsConst(m_windows)) {
+        if (window && hasShortcut)
+            window->addAction(slot.action);
+        else if (window)
+            window->removeAction(slot.action);
+    }
+}
+
+void Slots::onWindowAdded(QMainWindow* window)
+{
+    m_windows.removeAll(nullptr); // Those that are gone.
+    m_windows.append(window);
+    for (const Slot& slot : m_slots) {
+        if (slot.isInWindows)
+            window->addAction(slot.action);
+    }
 }
 
 QString Slots::shortcutText(const QString& group, const QString& view) const
@@ -135,7 +155,6 @@ void Slots::load()
     }
     if (settings.contains(shortcutsKey))
         setShortcutsEnabled(settings.value(shortcutsKey).toBool());
-    store();
     updateAll();
 }
 
@@ -163,20 +182,19 @@ void Slots::takeAway(const Layout& layout)
         slot.names.removeAll(layout);
 }
 
-// The Manager tells its active group only and must not be asked for more while it emits signals.
+// The Manager tells its active group only and must not be asked for more while it emits signals,
+// which storing may make it do.
 void Slots::onGroupModified()
 {
     const QString group = m_manager.activeGroup();
-    bool hasOthers = false;
     for (Slot& slot : m_slots) {
         const bool isActive =
             std::all_of(slot.names.cbegin(), slot.names.cend(),
                         [&](const Layout& layout) { return layout.group == group; });
         if (isActive)
             update(slot, firstExisting(slot));
-        hasOthers = hasOthers || !isActive;
     }
-    if (hasOthers && !std::exchange(m_updatesSoon, true))
+    if (!std::exchange(m_updatesSoon, true))
         QMetaObject::invokeMethod(this, &Slots::updateAll, Qt::QueuedConnection);
 }
 
@@ -185,6 +203,7 @@ void Slots::updateAll()
     m_updatesSoon = false;
     for (Slot& slot : m_slots)
         update(slot, firstExisting(slot));
+    store();
 }
 
 void Slots::update(Slot& slot, const Layout& layout)

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QList>
+#include <QMainWindow>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 
 class QAction;
@@ -34,7 +36,8 @@ class Slots : public QObject
 public:
     static constexpr int count = 9;
 
-    /** All must outlive this object. The actions are also added to the windows. */
+    /** All must outlive this object. The windows have the actions that have a
+        shortcut. */
     Slots(Manager& manager, StoredViews& stored, Windows& windows, Keeper& keeper,
           const Actions& actions);
     ~Slots() override;
@@ -43,9 +46,9 @@ public:
     int slotOf(const QString& group, const QString& view) const;
     /** Gives @p slot to a layout, which loses the one that it had; 0 gives it none. */
     void assign(int slot, const QString& group, const QString& view);
-    /** A layout has got another name or group. Call it after the Manager has changed. */
-    void rename(const QString& group, const QString& view, const QString& newGroup,
-                const QString& newView);
+    /** The layout of @p slot has got another name or group; nothing for 0. To be called after the
+        Manager has changed, with the slot that the layout had before. */
+    void follow(int slot, const QString& group, const QString& view);
 
     /** Off at first. */
     bool areShortcutsEnabled() const { return m_hasShortcuts; }
@@ -76,8 +79,11 @@ private:
         QList<Layout> names;
         Layout layout;
         QAction* action = nullptr;
+        bool isInWindows = false;
     };
 
+    void updateWindows(Slot& slot);
+    void onWindowAdded(QMainWindow* window);
     void load();
     void store();
     void takeAway(const Layout& layout);
@@ -94,6 +100,7 @@ private:
     Keeper& m_keeper;
     QAction& m_shortcuts;
     Slot m_slots[count];
+    QList<QPointer<QMainWindow>> m_windows;
     bool m_hasShortcuts = false;
     bool m_updatesSoon = false;
 };
