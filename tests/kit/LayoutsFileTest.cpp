@@ -66,6 +66,13 @@ private Q_SLOTS:
     void twoProgramsKeepBothLayouts();
     void aViewThatBothChangedIsKeptTwice();
     void whatOthersDeletedGoes();
+    void whatOthersDeletedGoesThoughItWasDamaged();
+    void settingsOfBothAreKept();
+    void settingsOfOthersAreTakenOver();
+    void sizesOfOthersAreKept();
+    void whatAReceiverAddsIsSaved();
+    void groupsOfOthersAreKept();
+    void anotherFileGetsAll();
     void aFailureIsToldOnceAndRetried();
     void windowsThatNeverCameKeepTheirPart();
     void aLockOfNobodyIsRemoved();
@@ -345,6 +352,156 @@ void LayoutsFileTest::whatOthersDeletedGoes()
     two.manager.createView("x"_s);
     QVERIFY(two.layouts.save());
     QCOMPARE(two.manager.views(), QStringList({"w"_s, "x"_s}));
+}
+
+void LayoutsFileTest::whatOthersDeletedGoesThoughItWasDamaged()
+{
+    QByteArray state;
+    {
+        Program program(path("f.views"));
+        program.manager.createView("good"_s);
+        program.window.moveDock(Qt::RightDockWidgetArea);
+        program.manager.createView("bad"_s);
+        state = program.window.saveState().toHex();
+    }
+    QByteArray harmful = state;
+    harmful.replace(26, 8, "7fffffff");
+    write("f.views", contentOf("f.views").replace(state, harmful));
+    Program one(path("f.views"));
+    Program two(path("f.views"));
+    one.manager.deleteView("bad"_s);
+    QVERIFY(one.layouts.save());
+    two.manager.createView("new"_s);
+    QVERIFY(two.layouts.save());
+    QCOMPARE(two.manager.views(), QStringList({"good"_s, "new"_s}));
+    QVERIFY(!contentOf("f.views").contains("Name=\"bad\""));
+}
+
+void LayoutsFileTest::settingsOfBothAreKept()
+{
+    {
+        Program program(path("f.views"));
+        program.layouts.setLocked(true);
+        program.layouts.setLocked(false);
+    }
+    Program one(path("f.views"));
+    Program two(path("f.views"));
+    one.layouts.setLocked(true);
+    QVERIFY(one.layouts.save());
+    two.layouts.setSlotShortcutsEnabled(true);
+    QVERIFY(two.layouts.save());
+    QVERIFY(two.layouts.isLocked());
+    QVERIFY(two.layouts.areSlotShortcutsEnabled());
+    two.layouts.setLocked(false);
+    QVERIFY(two.layouts.save());
+    one.manager.createView("a"_s);
+    QVERIFY(one.layouts.save());
+    QVERIFY(!one.layouts.isLocked());
+    QVERIFY(one.layouts.areSlotShortcutsEnabled());
+    const Program three(path("f.views"));
+    QVERIFY(!three.layouts.isLocked());
+    QVERIFY(three.layouts.areSlotShortcutsEnabled());
+}
+
+// Where no view has changed, too.
+void LayoutsFileTest::settingsOfOthersAreTakenOver()
+{
+    Program one(path("f.views"));
+    QVERIFY(one.layouts.save());
+    Program two(path("f.views"));
+    QVERIFY(two.layouts.save());
+    one.layouts.setLocked(true);
+    QVERIFY(one.layouts.save());
+    two.window.moveDock(Qt::RightDockWidgetArea);
+    QVERIFY(two.layouts.save());
+    QVERIFY(two.layouts.isLocked());
+    const Program three(path("f.views"));
+    QVERIFY(three.layouts.isLocked());
+    QCOMPARE(three.window.dockArea(), Qt::RightDockWidgetArea);
+}
+
+void LayoutsFileTest::sizesOfOthersAreKept()
+{
+    Program one(path("f.views"));
+    QVERIFY(one.layouts.save());
+    Program two(path("f.views"));
+    QVERIFY(two.layouts.save());
+    const QSize size = two.window.size();
+    one.window.resize(333, 222);
+    QVERIFY(one.layouts.save());
+    // What it has not changed itself never replaces it.
+    for (const auto area : {Qt::RightDockWidgetArea, Qt::TopDockWidgetArea}) {
+        two.window.moveDock(area);
+        QVERIFY(two.layouts.save());
+    }
+    QCOMPARE(two.window.size(), size);
+    {
+        const Program three(path("f.views"));
+        QCOMPARE(three.window.size(), QSize(333, 222));
+    }
+    two.window.resize(444, 333);
+    QVERIFY(two.layouts.save());
+    const Program four(path("f.views"));
+    QCOMPARE(four.window.size(), QSize(444, 333));
+}
+
+void LayoutsFileTest::whatAReceiverAddsIsSaved()
+{
+    Program one(path("f.views"));
+    QVERIFY(one.layouts.save());
+    Program two(path("f.views"));
+    one.manager.createView("of one"_s);
+    QVERIFY(one.layouts.save());
+    two.manager.createView("of two"_s);
+    QObject::connect(&two.manager, &Manager::groupModified, &two.layouts, [&two] {
+        if (!two.manager.views().contains("late"_s))
+            two.manager.createView("late"_s);
+    });
+    QVERIFY(two.layouts.save());
+    QVERIFY(two.layouts.save());
+    QVERIFY(two.manager.views().contains("late"_s));
+    QVERIFY(contentOf("f.views").contains("Name=\"of one\""));
+    QVERIFY(contentOf("f.views").contains("Name=\"late\""));
+}
+
+void LayoutsFileTest::groupsOfOthersAreKept()
+{
+    Program both(path("f.views"));
+    both.manager.activateGroup("H"_s);
+    both.manager.createView("of H"_s);
+    QVERIFY(both.layouts.save());
+    Manager manager({"G"_s}, /*mergeOnApply=*/false);
+    Layouts layouts(manager);
+    layouts.start(path("f.views"));
+    manager.createView("of G"_s);
+    QVERIFY(layouts.save());
+    QVERIFY(contentOf("f.views").contains("Name=\"of H\""));
+    // Also what comes meanwhile.
+    both.manager.createView("more of H"_s);
+    QVERIFY(both.layouts.save());
+    manager.createView("more of G"_s);
+    QVERIFY(layouts.save());
+    const QByteArray content = contentOf("f.views");
+    for (const char* name : {"of G", "of H", "more of G", "more of H"})
+        QCOMPARE(content.count("Name=\"" + QByteArray(name) + '"'), 1);
+    Program third(path("f.views"));
+    third.manager.activateGroup("H"_s);
+    QCOMPARE(third.manager.views(), QStringList({"of H"_s, "more of H"_s}));
+}
+
+void LayoutsFileTest::anotherFileGetsAll()
+{
+    Program program(path("f.views"));
+    program.manager.createView("a"_s);
+    program.layouts.setLocked(true);
+    program.layouts.start(path("g.views"));
+    QVERIFY(contentOf("f.views").contains("Name=\"a\""));
+    QVERIFY(program.layouts.save());
+    QVERIFY(contentOf("g.views").contains("Name=\"a\""));
+    QVERIFY(program.layouts.isLocked());
+    program.layouts.start(path("f.views"));
+    QCOMPARE(program.manager.views(), QStringList("a"_s));
+    QCOMPARE(program.messages, QStringList());
 }
 
 void LayoutsFileTest::aFailureIsToldOnceAndRetried()

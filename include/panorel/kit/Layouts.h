@@ -93,7 +93,10 @@ public:
      * beside it. A file that cannot be read is renamed and reported, and the newest good one is
      * used in its place. One of another version stays, and changes nothing, until there are
      * layouts to save; then it is renamed too. Layouts that another program has saved in it
-     * meanwhile are taken over; one that both have changed is kept twice.
+     * meanwhile are taken over; one that both have changed is kept twice. Slots, their shortcuts
+     * and the lock are taken over too, unless this program has changed them itself. Groups that
+     * the Manager does not have stay in the file. Called again, it saves in the file before and
+     * goes on with the other one.
      *
      * If the Manager is deleted before this object, its changes of the last half second, such as a
      * new layout, are not saved; the arrangement of the windows is. Call save() before, or delete
@@ -189,7 +192,8 @@ public:
     /**
      * Adds the layouts of a file to those that are there, in place of those of the same name, and
      * shows its working layout. Parts that are not sound are left out.
-     * @param problem if not null, gets why nothing was changed, in the user's language; else null.
+     * @param problem if not null, gets why nothing was changed, in the user's language, or an empty
+     * text without the Manager; else null.
      * @return false if nothing was changed. Anything is refused that is not a document of layouts
      * for one of the Manager's groups.
      */

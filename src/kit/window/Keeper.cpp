@@ -57,6 +57,32 @@ bool tidy(Snapshot& snapshot)
     return dropped;
 }
 
+QJsonObject settingsOf(const Snapshot& snapshot)
+{
+    return snapshot.groups.isEmpty()
+               ? QJsonObject()
+               : Geometries::settingsIn(snapshot.groups.constFirst().current.userData);
+}
+
+// Theirs, with what has changed in ours since both were the base.
+QJsonObject mergedSettings(const QJsonObject& base, const QJsonObject& ours,
+                           const QJsonObject& theirs)
+{
+    QJsonObject result = theirs;
+    QStringList keys = ours.keys();
+    keys += base.keys();
+    for (const QString& key : qAsConst(keys)) {
+        const QJsonValue own = ours.value(key);
+        const QJsonValue other = theirs.value(key);
+        if (own.isObject() && other.isObject())
+            result.insert(
+                key, mergedSettings(base.value(key).toObject(), own.toObject(), other.toObject()));
+        else if (own != base.value(key))
+            result.insert(key, own); // One that is undefined is removed.
+    }
+    return result;
+}
+
 bool isOurs(const QByteArray& bytes)
 {
     const LayoutDocument document(bytes);
@@ -92,6 +118,9 @@ Keeper::~Keeper()
 
 void Keeper::start(const QString& fileName)
 {
+    (void)save(); // Where it was kept until now; a failure has been reported.
+    stop();
+    m_problem.clear();
     m_storage = std::make_unique<Storage>(fileName);
     m_name = m_storage->readableName();
     m_windows.update();
@@ -112,6 +141,12 @@ void Keeper::stop()
 {
     m_storage.reset();
     m_timer.stop();
+    m_known.clear();
+    m_fileSettings = m_savedSettings = QJsonObject();
+    m_foreign.clear();
+    m_savedStates.clear();
+    m_viewsChanged = true;
+    m_isOtherVersion = false;
 }
 
 void Keeper::finish()
@@ -124,11 +159,14 @@ void Keeper::finish()
         const Storage::Lock lock(*m_storage);
         QString problem;
         const QByteArray bytes = m_storage->read(&problem);
-        if (bytes != m_known && isOurs(bytes))
-            snapshot =
-                Snapshot::merged(Snapshot::fromXml(m_known), snapshot, Snapshot::fromXml(bytes));
+        if (bytes != m_known && isOurs(bytes)) {
+            const Snapshot others = Snapshot::fromXml(bytes);
+            snapshot = Snapshot::merged(Snapshot::fromXml(m_known), snapshot, others);
+            m_fileSettings = settingsOf(others);
+        }
+        m_foreign.clear(); // It has them.
         if (problem.isEmpty() && (bytes.isNull() || isOurs(bytes)))
-            (void)write(snapshot.toXml()); // A failure has been reported.
+            (void)write(documentOf(snapshot)); // A failure has been reported.
     }
     stop();
 }
@@ -184,11 +222,13 @@ bool Keeper::load()
 void Keeper::takeOver(const QByteArray& document)
 {
     Snapshot snapshot = Snapshot::fromXml(document);
+    m_foreign = foreignGroups(snapshot);
     if (tidy(snapshot))
         tell(tr("Some of the layouts in %1 are damaged and were left out.").arg(m_name));
     const Activity::Takeover takeover(m_activity);
     if (!snapshot.groups.isEmpty())
-        m_settings = Geometries::settingsIn(snapshot.groups.constFirst().current.userData);
+        m_settings = settingsOf(snapshot);
+    m_fileSettings = m_savedSettings = settingsOf(snapshot);
     const QString group = m_settings.value(groupKey).toString();
     if (group != m_manager.activeGroup()) {
         const WindowOwner::Silence silence(m_owner);
@@ -206,7 +246,8 @@ void Keeper::giveToManager(const Snapshot& snapshot)
     const Activity::Takeover takeover(m_activity);
     const WindowOwner::Silence silence(m_owner);
     (void)m_manager.fromXml(snapshot.toXml(), /*merge=*/false); // It is valid.
-    m_stored.read(snapshot);
+    // A receiver of its signals may have changed them, and it does not take groups of others.
+    m_stored.read(Snapshot::fromXml(m_manager.toXml(/*markActive=*/true)));
 }
 
 Snapshot Keeper::current(const StateMap& states)
@@ -233,8 +274,35 @@ void Keeper::noteWindows(Snapshot& snapshot, const StateMap& states) const
         active->current.states = states;
     if (m_activity.merges())
         snapshot.toolBarStates = states;
+}
+
+// What this program has changed stays. Its windows and its group stay in any case.
+void Keeper::adoptSettings(const QJsonObject& theirs)
+{
+    m_fileSettings = theirs;
+    m_settings = mergedSettings(m_savedSettings, m_settings, theirs);
+    noteSettings();
+}
+
+QVector<Snapshot::Group> Keeper::foreignGroups(const Snapshot& file) const
+{
+    const QStringList own = m_manager.groups();
+    QVector<Snapshot::Group> foreign;
+    for (const Snapshot::Group& group : file.groups) {
+        if (!own.contains(group.name))
+            foreign.append(group);
+    }
+    return foreign;
+}
+
+// With all that is in the file beside the Manager's layouts.
+QByteArray Keeper::documentOf(Snapshot snapshot) const
+{
     QString& userData = snapshot.groups.first().current.userData;
-    userData = Geometries::withSettings(userData, m_settings);
+    userData = Geometries::withSettings(
+        userData, mergedSettings(m_savedSettings, m_settings, m_fileSettings));
+    snapshot.groups += m_foreign;
+    return snapshot.toXml();
 }
 
 bool Keeper::isSaved(const StateMap& states) const
@@ -252,22 +320,29 @@ bool Keeper::save()
     // Most of what touches a window changes nothing, and the document may be large.
     if (!m_viewsChanged && isSaved(states))
         return m_problem.isEmpty();
-    Snapshot snapshot = current(states);
-    const bool isKnown = snapshot.toXml() == m_known;
-    const bool isLeft = m_isOtherVersion && !hasViews(snapshot);
-    if (!isKnown && !isLeft && !saveWithOthers(snapshot))
-        return false;
+    const QJsonObject settings = m_settings;
+    // First, because a receiver of the signals of merging may change more.
     m_viewsChanged = false;
-    m_savedStates = states;
-    m_savedSettings = m_settings;
-    return m_problem.isEmpty() || isLeft;
+    Snapshot snapshot = current(states);
+    const bool isKnown = documentOf(snapshot) == m_known;
+    const bool isLeft = m_isOtherVersion && !hasViews(snapshot);
+    const bool isDone = isKnown || isLeft || saveWithOthers(snapshot);
+    if (isDone) {
+        m_savedStates = states;
+        m_savedSettings = m_settings;
+    } else {
+        m_viewsChanged = true;
+    }
+    if (m_settings != settings)
+        Q_EMIT loaded();
+    return isDone && (m_problem.isEmpty() || isLeft);
 }
 
 bool Keeper::saveWithOthers(Snapshot& snapshot)
 {
     const Storage::Lock lock(*m_storage);
     mergeOthers(snapshot);
-    return m_storage && write(snapshot.toXml());
+    return m_storage && write(documentOf(snapshot));
 }
 
 void Keeper::mergeOthers(Snapshot& snapshot)
@@ -283,8 +358,13 @@ void Keeper::mergeOthers(Snapshot& snapshot)
         return;
     }
     Snapshot others = Snapshot::fromXml(bytes);
+    m_foreign = foreignGroups(others);
+    adoptSettings(settingsOf(others));
     (void)tidy(others); // It was reported when it was written.
-    const Snapshot merged = Snapshot::merged(Snapshot::fromXml(m_known), snapshot, others);
+    // As ours was, so that tidying is no change.
+    Snapshot base = Snapshot::fromXml(m_known);
+    (void)tidy(base);
+    const Snapshot merged = Snapshot::merged(base, snapshot, others);
     if (haveSameViews(merged, snapshot))
         return;
     snapshot = merged;
@@ -296,6 +376,7 @@ bool Keeper::write(const QByteArray& document)
     const QString problem = m_storage->write(document);
     if (problem.isEmpty()) {
         m_known = document;
+        m_fileSettings = mergedSettings(m_savedSettings, m_settings, m_fileSettings);
         m_problem.clear();
         return true;
     }

@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QString>
 #include <QTimer>
+#include <QVector>
 
 #include <memory>
 
@@ -36,7 +37,7 @@ public:
     /** Loads the file and saves in it from now on. */
     void start(const QString& fileName);
     bool hasStarted() const { return m_storage != nullptr; }
-    /** Neither loads nor saves any more. */
+    /** Neither loads nor saves any more, and knows nothing of the file. */
     void stop();
     /** Saves what the windows show, now that the Manager is gone and tells nothing any more, and
         stops. */
@@ -54,7 +55,7 @@ public:
 Q_SIGNALS:
     /** The Manager's layouts have become those of the file. */
     void replaced();
-    /** The settings() are those of the file, if it has any. */
+    /** The settings() are those of the file, if it has any, or have got some of another program. */
     void loaded();
     /** One sentence for the user. */
     void message(const QString& text);
@@ -70,6 +71,9 @@ private:
     void beginWindows(const Snapshot& snapshot);
     Snapshot current(const StateMap& states);
     void noteSettings();
+    void adoptSettings(const QJsonObject& theirs);
+    QVector<Snapshot::Group> foreignGroups(const Snapshot& file) const;
+    QByteArray documentOf(Snapshot snapshot) const;
     void noteWindows(Snapshot& snapshot, const StateMap& states) const;
     bool isSaved(const StateMap& states) const;
     bool saveWithOthers(Snapshot& snapshot);
@@ -90,7 +94,11 @@ private:
     /** What is in the file as far as this program knows. */
     QByteArray m_known;
     QJsonObject m_settings;
-    /** What of the windows and which settings() were saved last. */
+    /** Its settings, and its groups that this Manager does not have. Both may be of another
+        program. */
+    QJsonObject m_fileSettings;
+    QVector<Snapshot::Group> m_foreign;
+    /** What of the windows and which settings() were saved last, or loaded. */
     StateMap m_savedStates;
     QJsonObject m_savedSettings;
     /** Whether views may be others than when they were saved last. */
