@@ -10,6 +10,8 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QToolBar>
+#include <QToolButton>
 #include <QUndoStack>
 
 #include <memory>
@@ -79,6 +81,9 @@ private Q_SLOTS:
     void toolBarsCountWithoutMergingOnly();
     void newPartsDoNotCount();
     void undoIsFollowed();
+    void undoKnowsSizes_data();
+    void undoKnowsSizes();
+    void redoKnowsWhatWasShown();
     void groupsKnowTheirOwn();
     void aStartKnowsWhatWasNotSaved();
     void theMenuOffersSaveAndBack();
@@ -237,6 +242,60 @@ void LayoutsModifiedTest::undoIsFollowed()
     QVERIFY(p.layouts.isModified());
     p.layouts.history()->redo();
     QVERIFY(!p.layouts.isModified());
+}
+
+void LayoutsModifiedTest::undoKnowsSizes_data()
+{
+    mergingColumn();
+}
+
+void LayoutsModifiedTest::undoKnowsSizes()
+{
+    QFETCH(bool, merges);
+    Program p(merges);
+    p.manager.saveCurrentViewAs("b"_s);
+    p.manager.saveCurrentViewAs("a"_s);
+    QVERIFY(!p.layouts.isModified());
+    p.window.resizeDocks({p.window.leftTab}, {p.window.leftTab->width() + 100}, Qt::Horizontal);
+    QVERIFY(p.layouts.isModified());
+    p.manager.activateView("b"_s);
+    QVERIFY(!p.layouts.isModified());
+    for (int round = 0; round < 2; ++round) {
+        p.layouts.history()->undo();
+        QCoreApplication::processEvents();
+        QCOMPARE(p.manager.activeView(), "a"_s);
+        QVERIFY(p.layouts.isModified());
+        p.layouts.history()->redo();
+        QCoreApplication::processEvents();
+        QCOMPARE(p.manager.activeView(), "b"_s);
+        QVERIFY(!p.layouts.isModified());
+    }
+}
+
+void LayoutsModifiedTest::redoKnowsWhatWasShown()
+{
+    Program p;
+    QToolButton* const button = p.layouts.createButton(&p.window);
+    p.window.mainBar->addWidget(button);
+    p.window.mainBar->hide();
+    p.manager.saveCurrentViewAs("b"_s);
+    p.window.mainBar->show();
+    p.window.rearrangeDocks();
+    p.manager.saveCurrentViewAs("a"_s);
+    p.manager.activateView("b"_s);
+    // Because of the button.
+    QTRY_VERIFY(!p.window.mainBar->isHidden());
+    QVERIFY(!p.layouts.isModified());
+    for (int round = 0; round < 2; ++round) {
+        p.layouts.history()->undo();
+        QCoreApplication::processEvents();
+        QVERIFY(!p.layouts.isModified());
+        p.layouts.history()->redo();
+        QCoreApplication::processEvents();
+        QCOMPARE(p.manager.activeView(), "b"_s);
+        QVERIFY(!p.window.mainBar->isHidden());
+        QVERIFY(!p.layouts.isModified());
+    }
 }
 
 void LayoutsModifiedTest::groupsKnowTheirOwn()

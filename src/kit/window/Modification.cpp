@@ -37,14 +37,14 @@ Modification::Modification(WindowOwner& owner, StoredViews& stored, Giver& giver
     m_timer.setInterval(comparingDelay);
     connect(&m_timer, &QTimer::timeout, this, &Modification::compare);
     connect(&activity, &Activity::done, this, &Modification::onDone);
-    connect(&activity, &Activity::takenOver, this, [this] { update(/*isShown=*/false); });
+    connect(&activity, &Activity::takenOver, this, [this] { update(Source::Left); });
     connect(&windows, &Windows::touched, this, &Modification::touch);
     // Windows get their layout again at their real size.
     connect(&giver, &Giver::given, this, [this] {
         m_settles = m_settles || !m_isModified;
         touch();
     });
-    update(/*isShown=*/false);
+    update(Source::Stored);
 }
 
 Modification::~Modification() = default;
@@ -64,10 +64,11 @@ void Modification::onDone(const Operation& operation)
 {
     const bool isGroup = m_group != m_stored.contents().activeGroup;
     // Documents and groups have working layouts of their own.
-    update(operation.hasGiven && !operation.isDocument && !isGroup);
+    const bool isShown = operation.hasGiven && !operation.isDocument && !isGroup;
+    update(isShown ? Source::Shown : Source::Stored);
 }
 
-void Modification::update(bool isShown)
+void Modification::update(Source source)
 {
     const Contents& contents = m_stored.contents();
     const Contents::Group* const group = contents.find(contents.activeGroup);
@@ -75,13 +76,24 @@ void Modification::update(bool isShown)
     const StateMap states = group ? group->activeStates() : StateMap();
     const bool isSame = m_group == contents.activeGroup && m_view == view &&
                         m_view.isNull() == view.isNull() && m_states == states;
+    const Left known = m_left.value({contents.activeGroup, view});
+    if (!isSame)
+        leave();
     m_group = contents.activeGroup;
     m_view = view;
     m_states = states;
-    if (isShown)
+    if (source == Source::Shown)
         takeShown();
+    else if (!isSame && source == Source::Left && known.states == states && !states.isEmpty())
+        takeLeft(known);
     else if (!isSame)
         takeStored(states);
+}
+
+void Modification::leave()
+{
+    const bool isUnknown = m_timer.isActive() && !m_settles;
+    m_left.insert({m_group, m_view}, {m_states, m_references, m_isModified || isUnknown});
 }
 
 void Modification::takeShown()
@@ -96,6 +108,16 @@ void Modification::takeShown()
     set(false);
     // What is moved for it by the event loop is no change of the user's.
     m_settles = true;
+    touch();
+}
+
+// A step shows what it was when it was left, which may be modified.
+void Modification::takeLeft(const Left& left)
+{
+    m_references = left.references;
+    m_compared.clear();
+    m_settles = !left.wasModified;
+    set(left.wasModified);
     touch();
 }
 

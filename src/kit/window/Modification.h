@@ -6,6 +6,7 @@
 
 #include <QHash>
 #include <QObject>
+#include <QPair>
 #include <QSize>
 #include <QString>
 #include <QTimer>
@@ -61,9 +62,24 @@ private:
         }
     };
 
+    /** What was known of a layout when another one became the active one. */
+    struct Left
+    {
+        /** Its own, by which it is recognised. */
+        StateMap states;
+        QHash<QString, Reference> references;
+        bool wasModified = false;
+    };
+
+    /** What the windows are compared with: what they show now, what they were when the layout was
+        left if that is known, or what is stored. */
+    enum class Source { Shown, Left, Stored };
+
     void onDone(const Operation& operation);
-    void update(bool isShown);
+    void update(Source source);
+    void leave();
     void takeShown();
+    void takeLeft(const Left& left);
     void takeStored(const StateMap& states);
     void touch();
     void compare();
@@ -81,6 +97,8 @@ private:
     QString m_view;
     StateMap m_states;
     QHash<QString, Reference> m_references;
+    /** By group and view. */
+    QHash<QPair<QString, QString>, Left> m_left;
     /** What was looked at last, and what it was. */
     QHash<QString, Reference> m_compared;
     QVector<Difference> m_differences;
