@@ -28,6 +28,7 @@ private Q_SLOTS:
     void whatTheFileReplacesIsNotUndone_data();
     void whatTheFileReplacesIsNotUndone();
     void withoutAFileStepsStay();
+    void whatOthersHaveSavedStays();
     void theStackMayJoinAGroup();
     void anyOrderOfEnds_data();
     void anyOrderOfEnds();
@@ -163,6 +164,49 @@ void LayoutsHistoryStackTest::withoutAFileStepsStay()
     p.layouts.start(folder.filePath("f.views"_s));
     p.stack.undo();
     QCOMPARE(p.manager.views(), QStringList());
+}
+
+void LayoutsHistoryStackTest::whatOthersHaveSavedStays()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("f.views"_s);
+    HistoryProgram p;
+    p.layouts.start(file);
+    p.save("new"_s, left);
+    p.save("saved"_s, left);
+    p.save("saved"_s, right);
+    p.save("deleted"_s, bottom);
+    p.manager.deleteView("deleted"_s);
+    QVERIFY(p.layouts.save());
+    {
+        HistoryProgram other;
+        other.layouts.start(file);
+        other.save("new"_s, top);
+        other.save("saved"_s, top);
+        other.save("deleted"_s, top);
+        QVERIFY(other.layouts.save());
+    }
+    p.window.moveDock(left);
+    QVERIFY(p.layouts.save());
+    QCOMPARE(p.views(), QStringList({"new^ saved^ deleted^"_s, QString()}));
+    p.stack.undo();
+    QCOMPARE(p.views(), QStringList({"new^ saved^ deleted^ *deleted (2)_"_s, QString()}));
+    p.stack.setIndex(2);
+    QCOMPARE(p.manager.views(),
+             QStringList({"new"_s, "saved"_s, "deleted"_s, "deleted (2)"_s, "saved (2)"_s}));
+    p.stack.setIndex(0);
+    const QStringList all = p.views();
+    for (const QString& view : {"new^"_s, "saved^"_s, "deleted^"_s})
+        QVERIFY2(all[0].contains(view), qPrintable(all[0]));
+    QVERIFY2(all[0].contains("saved (2)<"_s), qPrintable(all[0]));
+    // To and fro adds no more than both of its sides.
+    p.stack.setIndex(5);
+    const int count = p.manager.views().size();
+    for (int i = 0; i < 3; ++i) {
+        p.stack.setIndex(0);
+        p.stack.setIndex(5);
+    }
+    QCOMPARE(p.manager.views().size(), count);
 }
 
 void LayoutsHistoryStackTest::theStackMayJoinAGroup()

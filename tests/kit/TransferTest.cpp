@@ -24,6 +24,7 @@ private Q_SLOTS:
     void sameNameIsReplaced();
     void refusedFiles_data();
     void refusedFiles();
+    void withoutTheManagerThereIsNoReason();
     void pipeIsRefused();
     void unsoundPartsAreLeftOut();
     void otherGroups();
@@ -107,6 +108,15 @@ void TransferTest::refusedFiles()
     QVERIFY(!m_layouts->importFile(name));
     QCOMPARE(modified.count(), 0);
     QCOMPARE(m_manager->views(), QStringList{QStringLiteral("Mine")});
+}
+
+void TransferTest::withoutTheManagerThereIsNoReason()
+{
+    m_manager.reset();
+    QString problem = QStringLiteral("as before");
+    QVERIFY(!m_layouts->importFile(write(documentWith({QStringLiteral("A")})), &problem));
+    QCOMPARE(problem, QStringLiteral(""));
+    QVERIFY(!problem.isNull());
 }
 
 void TransferTest::pipeIsRefused()

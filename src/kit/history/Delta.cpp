@@ -92,23 +92,56 @@ QStringList orderAfter(const QStringList& names, const Delta::Group& change)
     return result;
 }
 
-void applyViews(Contents::Group& group, const Delta::Group& change)
+// Whether a view is no longer what the change began with, nor what it leads to.
+bool isChanged(const Contents::Group& group, const Delta::View& change)
+{
+    const View* const present =
+        group.find(change.before ? change.before->name : change.after->name);
+    return present && !(change.before && *present == *change.before) &&
+           !(change.after && *present == *change.after);
+}
+
+// Adds @p view under its name with a number after it, unless it is there already.
+QString addCopy(Contents::Group& group, View view)
+{
+    const QString name = view.name;
+    for (int number = 2; const View* const present = group.find(view.name); ++number) {
+        if (*present == view)
+            return view.name;
+        view.name = name + QStringLiteral(" (%1)").arg(number);
+    }
+    group.views.append(view);
+    return view.name;
+}
+
+void applyViews(Contents::Group& group, const Delta::Group& change, QString& active)
 {
     if (change.views.isEmpty() && change.order.before == change.order.after)
         return;
-    auto views = viewsByName(group.views);
-    const QStringList names = orderAfter(group.names(), change);
+    const Contents::Group from = group;
+    auto views = viewsByName(from.views);
+    QStringList names = orderAfter(from.names(), change);
+    QVector<View> copies;
     for (const Delta::View& view : change.views) {
-        if (view.after)
+        const bool stays = isChanged(from, view);
+        if (stays && view.after)
+            copies.append(*view.after);
+        else if (view.after)
             views.insert(view.after->name, &*view.after);
+        if (stays && !view.after && !names.contains(view.before->name))
+            names.insert(std::min(from.indexOf(view.before->name), names.size()),
+                         view.before->name);
     }
-    QVector<View> result;
-    result.reserve(names.size());
-    for (const QString& name : names) {
+    group.views.clear();
+    for (const QString& name : qAsConst(names)) {
         if (const View* const view = views.take(name))
-            result.append(*view);
+            group.views.append(*view);
     }
-    group.views = result;
+    for (const View& copy : qAsConst(copies)) {
+        const QString name = addCopy(group, copy);
+        if (active == copy.name)
+            active = name;
+    }
 }
 
 } // namespace
@@ -157,11 +190,12 @@ void Delta::apply(Contents& contents) const
         Contents::Group* const group = contents.find(change.name);
         if (!group)
             continue;
-        applyViews(*group, change);
+        QString active = change.activeAfter;
+        applyViews(*group, change, active);
         if (change.currentAfter)
             group->current = *change.currentAfter;
         if (change.activeAfter != change.activeBefore)
-            group->active = change.activeAfter;
+            group->active = active;
         if (!group->active.isNull() && !group->find(group->active))
             group->active = QString();
     }

@@ -52,8 +52,9 @@ struct Delta
     bool isEmpty() const { return groups.isEmpty() && groupBefore == groupAfter; }
     /** The other way round. */
     Delta reversed() const;
-    /** Makes what came before of @p contents what came after. What has changed meanwhile and is not
-        part of it stays. */
+    /** Makes what came before of @p contents what came after. What has changed meanwhile stays: a
+        view that is neither what it was before nor what it gets is kept, and what it would get
+        comes under a name with a number after it. */
     void apply(Contents& contents) const;
     /** Calls @p function for all states, which it may replace by equal ones. */
     void forEachStates(const std::function<void(StateMap&)>& function);
