@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QSettings>
 #include <QTimer>
+#include <QWindow>
 
 #include <csignal>
 #include <cstdio>
@@ -77,6 +78,14 @@ void end(Window& window, const QString& way)
     window.close();
 }
 
+// Whether a window manager has answered, on which the geometry to keep depends.
+bool isPlaced(const QWidget& window)
+{
+    const QWindow* handle = window.windowHandle();
+    return handle->isExposed() &&
+           (QGuiApplication::platformName() == "offscreen"_s || handle->frameMargins().top() > 0);
+}
+
 void use(Window& window, const QString& way)
 {
     if (way == "look"_s)
@@ -101,7 +110,7 @@ int main(int argc, char** argv)
     QTimer::singleShot(0, &window, [&] { window.restoreOwn(); });
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &window, [&] {
-        if (waits && !pluginMenu(window))
+        if ((waits && !pluginMenu(window)) || !isPlaced(window))
             return;
         timer.stop();
         use(window, way);

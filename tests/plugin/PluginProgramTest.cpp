@@ -79,6 +79,9 @@ private Q_SLOTS:
     void sameAsWithout();
     void layoutComesAfterTheProgramsOwn();
     void unreadableLayouts();
+
+private:
+    static void compareRuns(const QString& way, bool* isSame);
 };
 
 void PluginProgramTest::sameAsWithout_data()
@@ -88,13 +91,25 @@ void PluginProgramTest::sameAsWithout_data()
         QTest::newRow(way) << QString::fromLatin1(way);
 }
 
+// Whether both keep the same geometry and state. With a window manager that depends on when it
+// answers as well, so several tries are made there.
 void PluginProgramTest::sameAsWithout()
 {
     QFETCH(QString, way);
+    const int tries = qgetenv("QT_QPA_PLATFORM") == "offscreen" ? 1 : 10;
+    bool isSame = false;
+    for (int i = 0; i < tries && !isSame && !QTest::currentTestFailed(); ++i)
+        compareRuns(way, &isSame);
+    QVERIFY(isSame);
+}
+
+void PluginProgramTest::compareRuns(const QString& way, bool* isSame)
+{
     const QTemporaryDir with;
     const QTemporaryDir without;
+    *isSame = true;
     // The second run restores what the first has saved.
-    for (int i = 0; i < 2; ++i) {
+    for (int i = 0; i < 2 && *isSame; ++i) {
         const Run expected =
             run(without.path(), {without.filePath("settings"_s), way}, QByteArray());
         const Run actual = run(with.path(), {with.filePath("settings"_s), way}, "panorel");
@@ -102,7 +117,8 @@ void PluginProgramTest::sameAsWithout()
         QCOMPARE(actual.hasCrashed, expected.hasCrashed);
         QCOMPARE(actual.output, expected.output);
         QCOMPARE(actual.messages, expected.messages);
-        QCOMPARE(contentOf(with.filePath("settings"_s)), contentOf(without.filePath("settings"_s)));
+        *isSame =
+            contentOf(with.filePath("settings"_s)) == contentOf(without.filePath("settings"_s));
     }
 }
 
