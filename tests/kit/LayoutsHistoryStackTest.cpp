@@ -23,6 +23,7 @@ class LayoutsHistoryStackTest : public QObject
 
 private Q_SLOTS:
     void memoryIsBounded();
+    void namesCountToo();
     void theApplicationsCommandsStay();
     void commandsOfTheApplicationAreNotMerged();
     void whatTheFileReplacesIsNotUndone_data();
@@ -72,6 +73,22 @@ void LayoutsHistoryStackTest::memoryIsBounded()
         manager.deleteView("b"_s);
     }
     QVERIFY(stack.count() > 200);
+}
+
+// Steps whose states are all the same.
+void LayoutsHistoryStackTest::namesCountToo()
+{
+    HistoryProgram p;
+    // Of two megabytes.
+    const QString name(1024 * 1024, QLatin1Char('n'));
+    for (int i = 0; i < 40; ++i) {
+        p.manager.createView(name);
+        p.manager.deleteView(name);
+    }
+    QVERIFY2(p.stack.count() >= 4 && p.stack.count() <= 16,
+             qPrintable(QString::number(p.stack.count())));
+    p.stack.undo();
+    QCOMPARE(p.manager.views(), QStringList(name));
 }
 
 void LayoutsHistoryStackTest::theApplicationsCommandsStay()

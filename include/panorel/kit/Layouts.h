@@ -176,7 +176,8 @@ public:
      * Undo and redo of all changes of the layouts and of each switch between them, no matter what
      * made them. Owned by this object. It may be shown in a QUndoView and added to a QUndoGroup.
      * The actions in the menu have no shortcuts. When start() loads layouts, the steps before it
-     * are dropped. Empty without the Manager.
+     * are dropped. A layout that another program has saved in the file meanwhile stays; what undo
+     * brings back in its place gets a number after its name. Empty without the Manager.
      */
     QUndoStack* history() const;
 

@@ -22,7 +22,7 @@ namespace Panorel::Kit::Detail {
 
 namespace {
 
-// In bytes of the states, which is nearly all that steps consist of.
+// In bytes of the states and of all else that steps consist of, which are many if states are small.
 constexpr qint64 limit = qint64{32} * 1024 * 1024;
 
 // Null for a command of the application.

@@ -15,6 +15,8 @@ public:
     /** Replaces each state by the one that is kept; release() what was added. */
     void add(StateMap& states);
     void release(const StateMap& states);
+    /** For what is kept elsewhere; less than none when it is released. */
+    void addBytes(qint64 bytes) { m_bytes += bytes; }
 
     /** Of all that is kept. */
     qint64 bytes() const { return m_bytes; }

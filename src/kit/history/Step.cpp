@@ -7,6 +7,31 @@
 
 namespace Panorel::Kit::Detail {
 
+namespace {
+
+// A step with all its parts, roughly.
+constexpr qint64 emptyStep = 1024;
+
+qint64 bytesOf(const QString& text)
+{
+    return text.size() * qint64{sizeof(QChar)};
+}
+
+qint64 bytesOf(const QStringList& names)
+{
+    qint64 bytes = 0;
+    for (const QString& name : names)
+        bytes += bytesOf(name);
+    return bytes;
+}
+
+qint64 bytesOf(const std::optional<Contents::View>& view)
+{
+    return view ? bytesOf(view->name) + bytesOf(view->userData) : 0;
+}
+
+} // namespace
+
 Step::Step(History& history, const Delta& delta, const std::optional<Shown>& shown, bool isDone)
     : m_history(history)
     , m_delta(delta)
@@ -70,9 +95,22 @@ void Step::run(const Delta& delta)
     keep();
 }
 
+qint64 Step::ownBytes() const
+{
+    qint64 bytes = emptyStep;
+    for (const Delta::Group& group : m_delta.groups) {
+        for (const Delta::View& view : group.views)
+            bytes += bytesOf(view.before) + bytesOf(view.after);
+        bytes += bytesOf(group.order.before) + bytesOf(group.order.after);
+    }
+    return bytes;
+}
+
 void Step::keep()
 {
     StatePool& pool = m_history.pool();
+    m_bytes = ownBytes();
+    pool.addBytes(m_bytes);
     m_delta.forEachStates([&](StateMap& states) { pool.add(states); });
     if (m_shown)
         pool.add(m_shown->states);
@@ -81,6 +119,7 @@ void Step::keep()
 void Step::release()
 {
     StatePool& pool = m_history.pool();
+    pool.addBytes(-std::exchange(m_bytes, 0));
     m_delta.forEachStates([&](StateMap& states) { pool.release(states); });
     if (m_shown)
         pool.release(m_shown->states);

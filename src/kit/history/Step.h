@@ -44,12 +44,15 @@ public:
 
 private:
     void run(const Delta& delta);
+    qint64 ownBytes() const;
     void keep();
     void release();
 
     History& m_history;
     Delta m_delta;
     std::optional<Shown> m_shown;
+    /** What it takes beside its states, as long as it is kept. */
+    qint64 m_bytes = 0;
     /** Whether the next redo() is the one by which it gets into the stack. */
     bool m_isDone;
     bool m_isContinuing = false;
