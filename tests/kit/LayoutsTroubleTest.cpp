@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QLockFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -109,6 +110,7 @@ private Q_SLOTS:
     void aFullDisk();
     void aFolderWithoutRights();
     void aDamagedFileInAFolderWithoutRights();
+    void theFileIsFreeWhenMessagesCome();
     void nothingRunsWhenNothingChanges();
     void touchesThatChangeNothingReadNoDocument();
     void theManagerGoesFirst_data();
@@ -213,6 +215,39 @@ void LayoutsTroubleTest::aDamagedFileInAFolderWithoutRights()
         QCOMPARE(program.messages.size(), 1);
     }
     QCOMPARE(content(), QByteArray("garbage"));
+}
+
+// A receiver may show a dialog, and other programs wait for the file.
+void LayoutsTroubleTest::theFileIsFreeWhenMessagesCome()
+{
+    const auto damage = [&] {
+        QFile file(path());
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no layouts") == 10);
+    };
+    damage();
+    SmallWindow window;
+    auto manager = std::make_unique<Manager>(QStringList("G"_s), /*mergeOnApply=*/false);
+    Layouts layouts(*manager);
+    QList<bool> wasFree;
+    connect(&layouts, &Layouts::message, this, [&] {
+        QLockFile lock(path() + ".lock"_s);
+        wasFree.append(lock.tryLock(0));
+    });
+    layouts.addWindow(window, "w"_s);
+    layouts.start(path());
+    QCOMPARE(wasFree, QList<bool>{true});
+    manager->createView("a"_s);
+    QVERIFY(layouts.save());
+    damage();
+    manager->createView("b"_s);
+    QVERIFY(layouts.save());
+    QCOMPARE(wasFree, (QList<bool>{true, true}));
+    {
+        const FullDisk disk(1000);
+        manager->createView("c"_s);
+        QVERIFY(!layouts.save());
+    }
+    QCOMPARE(wasFree, (QList<bool>{true, true, true}));
 }
 
 void LayoutsTroubleTest::nothingRunsWhenNothingChanges()

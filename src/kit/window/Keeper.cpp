@@ -13,9 +13,11 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QPointer>
 #include <QSessionManager>
 
 #include <algorithm>
+#include <utility>
 
 namespace Panorel::Kit::Detail {
 
@@ -135,6 +137,7 @@ void Keeper::start(const QString& fileName)
     connect(qApp, &QGuiApplication::lastWindowClosed, this, &Keeper::save, Qt::UniqueConnection);
     connect(qApp, &QGuiApplication::commitDataRequest, this, &Keeper::save, Qt::UniqueConnection);
     connect(qApp, &QCoreApplication::aboutToQuit, this, &Keeper::save, Qt::UniqueConnection);
+    emitMessages();
 }
 
 void Keeper::stop()
@@ -166,9 +169,10 @@ void Keeper::finish()
         }
         m_foreign.clear(); // It has them.
         if (problem.isEmpty() && (bytes.isNull() || isOurs(bytes)))
-            (void)write(documentOf(snapshot)); // A failure has been reported.
+            (void)write(documentOf(snapshot)); // A failure is reported.
     }
     stop();
+    emitMessages();
 }
 
 // It is still whole then, unlike when it is deleted at once.
@@ -335,7 +339,9 @@ bool Keeper::save()
     }
     if (m_settings != settings)
         Q_EMIT loaded();
-    return isDone && (m_problem.isEmpty() || isLeft);
+    const bool isGood = isDone && (m_problem.isEmpty() || isLeft);
+    emitMessages();
+    return isGood;
 }
 
 bool Keeper::saveWithOthers(Snapshot& snapshot)
@@ -412,7 +418,19 @@ void Keeper::tell(const QString& problem)
     if (problem == m_problem)
         return;
     m_problem = problem;
-    Q_EMIT message(problem);
+    m_messages.append(problem);
+}
+
+// Not before the file is free for other programs, because a receiver may wait for the user, and not
+// before this object is done, because one may use or destroy it.
+void Keeper::emitMessages()
+{
+    const QPointer<Keeper> self(this);
+    const QStringList messages = std::exchange(m_messages, {});
+    for (const QString& text : messages) {
+        if (self)
+            Q_EMIT message(text);
+    }
 }
 
 } // namespace Panorel::Kit::Detail

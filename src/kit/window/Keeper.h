@@ -7,6 +7,7 @@
 #include <QJsonObject>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 #include <QTimer>
 #include <QVector>
 
@@ -57,7 +58,7 @@ Q_SIGNALS:
     void replaced();
     /** The settings() are those of the file, if it has any, or have got some of another program. */
     void loaded();
-    /** One sentence for the user. */
+    /** One sentence for the user. The file is not locked then. */
     void message(const QString& text);
 
 protected:
@@ -82,6 +83,7 @@ private:
     void moveAway(const QString& reason);
     void saveSoon();
     void tell(const QString& problem);
+    void emitMessages();
 
     Manager& m_manager;
     WindowOwner& m_owner;
@@ -104,6 +106,8 @@ private:
     /** Whether views may be others than when they were saved last. */
     bool m_viewsChanged = true;
     QString m_problem;
+    /** What is still to be told. */
+    QStringList m_messages;
     QTimer m_timer;
     /** Whether the file is of another version. It stays until there are layouts to save. */
     bool m_isOtherVersion = false;
