@@ -46,6 +46,10 @@ int main(int argc, char* argv[])
         results.append(memory);
         printResult(memory);
     }
+    if (QStringLiteral("memory of 1,000 steps").contains(only)) {
+        results.append(memoryOfHistory());
+        printResult(results.last());
+    }
     const QVector<Growth> exponents = growths(results);
     printGrowths(exponents);
 
