@@ -72,7 +72,7 @@ QString findBelow(const QString& folder, const QString& id)
     QDirIterator files(folder, {QStringLiteral("*.desktop")}, QDir::Files,
                        QDirIterator::Subdirectories | QDirIterator::FollowSymlinks);
     while (files.hasNext()) {
-        const QString file = files.next();
+        QString file = files.next();
         const bool hasId = idOfRelative(QDir(folder).relativeFilePath(file)) == id;
         if (hasId && !Launcher(contentOf(file)).isOurs())
             return file;
@@ -106,7 +106,7 @@ QString findLauncher(const QString& name)
     const QStringList folders =
         QStandardPaths::standardLocations(QStandardPaths::ApplicationsLocation);
     for (const QString& folder : folders) {
-        const QString file = findBelow(folder, idOf(name));
+        QString file = findBelow(folder, idOf(name));
         if (!file.isNull())
             return file;
     }
