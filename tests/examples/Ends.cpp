@@ -20,7 +20,7 @@ namespace Panorel::Tests::Ends {
 namespace {
 
 const QRect firstPlace(420, 260, 230, 140);
-// In milliseconds, for what a window manager does on a busy machine.
+// In milliseconds. A window manager on a busy machine answers late.
 constexpr int patience = 60000;
 
 QList<QMainWindow*> mainWindows()

@@ -29,7 +29,7 @@ struct Actions;
 struct Operation;
 
 /**
- * Makes changes of a Manager's layouts steps that can be undone and done again, whoever makes them.
+ * Keeps each change of a Manager's layouts, also the application's own, as a step to be undone.
  *
  * A step has what it changes and nothing else. When all steps take more than a limit together, the
  * oldest are dropped.
